@@ -1,0 +1,47 @@
+#include "LayoutTable.h"
+
+#include "Button.h"
+
+namespace Layout {
+
+namespace {
+QString str(const char* s) {
+    return s ? QString::fromUtf8(s) : QString();
+}
+}  // namespace
+
+void SetCaption(NSImageViewS* view, const Caption& caption) {
+    if (!view || !caption.text) return;
+    view->InitText(str(caption.text), caption.color, 0, caption.loc, QString::fromLatin1(kFontName), caption.size);
+}
+
+NSImageViewS* MakeView(NSViewS* parent, const Row& row) {
+    auto* view = new NSImageViewS(row.frame);
+    if (row.hidden) view->setHidden(true);
+    const bool hasPicture = row.up != nullptr;
+    view->InitImage(str(row.up), hasPicture ? str(row.type) : QString(), static_cast<int>(row.frame.width),
+                    static_cast<int>(row.frame.height), parent);
+    SetCaption(view, row.caption);
+    return view;
+}
+
+Button* MakeButton(NSViewS* parent, const Row& row) {
+    auto* button = new Button(row.frame);
+    if (row.hidden) button->setHidden(true);
+    button->InitImage(str(row.up), str(row.move), str(row.down), str(row.type), parent);
+    SetCaption(button, row.caption);
+    return button;
+}
+
+void Build(NSViewS* parent, std::initializer_list<Row> rows) {
+    for (const Row& row : rows) {
+        if (row.button)
+            *row.button = MakeButton(parent, row);
+        else if (row.image)
+            *row.image = MakeView(parent, row);
+        else
+            MakeView(parent, row);  // decoration nobody refers to again; owned by the parent
+    }
+}
+
+}  // namespace Layout

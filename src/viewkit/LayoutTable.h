@@ -1,0 +1,48 @@
+#pragma once
+
+#include "NSRect.h"
+
+#include <QColor>
+#include <QString>
+
+#include <initializer_list>
+
+class Button;
+class NSImageViewS;
+class NSViewS;
+
+// Screens are written as their layout tables: one row per widget, built in row order by one
+// helper, so each widget joins its parent on top of the ones before it.
+namespace Layout {
+
+struct Caption {
+    const char* text = nullptr;  // none: the widget gets no caption
+    QColor color;
+    NSRect loc;
+    int size = 16;
+};
+
+struct Row {
+    // Exactly one of the two fields is set: a picture or caption-only view, or a button.
+    NSImageViewS** image = nullptr;
+    Button** button = nullptr;
+    NSRect frame;
+    // A view's picture is `up`, drawn at the frame's size (none: a caption-only view);
+    // a button shows up / move / down at their natural size.
+    const char* up = nullptr;
+    const char* move = nullptr;
+    const char* down = nullptr;
+    Caption caption;
+    const char* type = "png";
+    bool hidden = false;
+};
+
+// The font of every caption in the application.
+inline const char* const kFontName = "Courier";
+
+void Build(NSViewS* parent, std::initializer_list<Row> rows);
+NSImageViewS* MakeView(NSViewS* parent, const Row& row);
+Button* MakeButton(NSViewS* parent, const Row& row);
+void SetCaption(NSImageViewS* view, const Caption& caption);
+
+}  // namespace Layout

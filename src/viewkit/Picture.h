@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPixmap>
+#include <QSizeF>
+#include <QString>
+
+class QPainter;
+
+// A picture of the application's resources, found by base name and type. Nothing is read until
+// the picture is first drawn; a null name or a name with no resource gives a null picture,
+// which draws nothing.
+class Picture {
+public:
+    Picture() = default;
+    static Picture Lookup(const QString& name, const QString& type);
+
+    bool isNull() const { return m_path.isEmpty(); }
+    const QString& name() const { return m_name; }
+
+    // The size the picture is drawn at, in points; without one, its natural size.
+    void setSize(const QSizeF& size) { m_size = size; }
+    bool hasSize() const { return m_size.isValid(); }
+    QSizeF size() const;
+    QSizeF naturalSize() const;
+
+    // Draws the picture into target (points); devicePixelRatio picks the sharper file when
+    // the screen has one.
+    void draw(QPainter& painter, const QRectF& target, qreal devicePixelRatio) const;
+
+private:
+    const QPixmap& pixmap(qreal devicePixelRatio) const;
+
+    QString m_name;
+    QString m_type;
+    QString m_path;
+    QSizeF m_size;  // invalid: natural size
+    mutable QPixmap m_pixmap;
+    mutable bool m_loaded = false;
+    mutable qreal m_loadedRatio = 1.0;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QWindow>
+
+#include <vector>
+
+class Button;
+class QWidget;
+
+// Hover registrations. Qt's own enter/leave follow the widget under the pointer; the buttons of
+// this application instead get enter and exit only for rectangles registered while they were on
+// view, fixed in window coordinates, once per registration, and never removed. The registry
+// watches the pointer on the window itself, so it sees every move whatever widget lies under it.
+class TrackingRegistry : public QObject {
+    Q_OBJECT
+public:
+    static TrackingRegistry& instance();
+
+    // rect is in view's coordinates. An empty rectangle (the view hidden, or not yet in a shown
+    // window) is accepted and never fires.
+    void add(QWidget* view, const QRect& rect, Button* owner, void* userData, bool assumeInside);
+
+    // How many live registrations an owner has; registrations made while empty do not count.
+    int registrationCount(const Button* owner) const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Registration {
+        QPointer<QWindow> window;
+        QRect rect;  // window coordinates
+        QPointer<Button> owner;
+        bool inside = false;
+    };
+
+    void pointerMoved(QWindow* window, bool present, QPoint pos);
+
+    std::vector<Registration> m_registrations;
+    std::vector<QPointer<QWindow>> m_watched;
+};
