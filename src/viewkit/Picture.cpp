@@ -13,11 +13,12 @@ QString resourcePath(const QString& name, const QString& suffix, const QString& 
 Picture Picture::Lookup(const QString& name, const QString& type) {
     Picture picture;
     if (name.isEmpty() || type.isEmpty()) return picture;
-    const QString path = resourcePath(name, {}, type);
-    if (!QFile::exists(path)) return picture;
+    // The name is kept even when there is no such resource: it says what the view was asked to
+    // show, while the picture itself stays null and draws nothing.
     picture.m_name = name;
     picture.m_type = type;
-    picture.m_path = path;
+    const QString path = resourcePath(name, {}, type);
+    if (QFile::exists(path)) picture.m_path = path;
     return picture;
 }
 

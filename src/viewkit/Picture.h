@@ -15,6 +15,7 @@ public:
     static Picture Lookup(const QString& name, const QString& type);
 
     bool isNull() const { return m_path.isEmpty(); }
+    // The name asked for (empty for a null name), whether or not the resource exists.
     const QString& name() const { return m_name; }
 
     // The size the picture is drawn at, in points; without one, its natural size.
