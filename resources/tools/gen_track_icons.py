@@ -30,11 +30,8 @@ ORANGE = "#ff8000"
 ORANGE_LIGHT = "#ffa640"
 ORANGE_DARK = "#c85f00"
 CYAN = "#36d6ff"
-CYAN_GLOW = "#8feaff"
 CORAL = "#ff5a5f"
 WHITE = "#ffffff"
-BODY = "#eef2f7"
-BODY_SHADE = "#c5d0de"
 
 LOOKS = {
     # slate: the resting look of every button drawn here
@@ -367,22 +364,19 @@ def piece_route(w, h, out_dir, entry, exit_, hand, kind):
     heading = HEADING[(in_edge + 2) % 4]
     cx, cy = (ex, oy) if heading[0] == 0 else (ox, ey)
     d_in = abs(cx - ex) + abs(cy - ey)
-    room = (TIGHT_R + HALF) if kind == "tight" else 30
-    if d_in < room and hand == "right" and in_edge == 0 and out_dir == 1:
-        # The exit sits at the foot of the piece, below any single turn from the entry: swing
-        # right over the top, come down the far side and hook left into the exit.
-        return hook_route(w, h, (ex, ey), (ox, oy), kind)
+    if kind == "wide" and d_in < 30:
+        # The exit sits at the foot of the piece, too low for a wide turn from the entry: swing
+        # right over the top, come down the far side and bend into the exit. (A tight turn
+        # simply takes the corner as sharply as the band allows.)
+        return hook_route(w, h, (ex, ey), (ox, oy))
     return quarter_route(w, h, in_edge, in_coord, out_dir, out_coord, hand,
                          TIGHT_R if kind == "tight" else None)
 
 
-def hook_route(w, h, entry, exit_, kind):
+def hook_route(w, h, entry, exit_):
     ex, ey = entry
     ox, oy = exit_
-    if kind == "tight":
-        r1, r2 = 7.5, 7.0
-    else:
-        r1, r2 = 34.0, 14.0
+    r1, r2 = 36.0, 12.0
     down_x = ex + 2 * r1
     top = HALF + 2.5
     route = Route(ex, ey + OUTSIDE, (0, -1))
