@@ -790,6 +790,10 @@ def gen_mainpage_bg():
     doc.add('<circle cx="905" cy="140" r="12" fill="#0f2450" opacity="0.35"/>'
             '<circle cx="950" cy="168" r="7" fill="#0f2450" opacity="0.35"/>')
     doc.add(ring.replace('A190 30 0 0 1 190 0', 'A190 30 0 0 0 190 0') % (CYAN, "0.35", "5"))
+    # one shooting star for a bit of life in the empty sky
+    lin(doc, "streak", [(0, "#ffffff", 0), (1, "#ffffff", 0.7)], x1=0, y1=0, x2=1, y2=0)
+    doc.add('<g transform="translate(455 118) rotate(152)"><rect x="0" y="-1" width="130" height="2" rx="1" '
+            'fill="url(#streak)"/><circle cx="130" cy="0" r="2.2" fill="#ffffff" filter="url(#glow)"/></g>')
     # floor: a soft glow and perspective lines where the robot rolls in
     rad(doc, "floorGlow", [(0, CYAN, 0.28), (0.5, CYAN, 0.08), (1, CYAN, 0)],
         cx=298, cy=768, r=360, units="userSpaceOnUse", extra=' gradientTransform="translate(298 768) scale(1 0.32) translate(-298 -768)"')
@@ -864,7 +868,7 @@ def gen_pim(kind):
 
 def robot_portrait(doc, kind, cx, gy, s):
     if kind == 1:
-        return build_rover(doc, cx, gy, s)
+        return build_rover(doc, cx, gy, s * 0.86)
     if kind == 2:
         return build_walker(doc, cx, gy, s * 0.78)
     return build_tank(doc, cx, gy, s * 0.92, beam=90)
@@ -1015,8 +1019,8 @@ MENU_LOOKS = {
 
 def icon_bricks(cx, cy):
     out = []
-    specs = [(-10, 18, "#3d5d93", "#2d4a7a", SHELL), (4, 1, CYAN, "#1d9cc4", "#ffffff"),
-             (-4, -16, ORANGE, ORANGE_DARK, "#ffffff")]
+    specs = [(-6, 18, SHELL, SHELL_SHADE, JOINT), (6, 1, CYAN, "#1d9cc4", "#ffffff"),
+             (-2, -16, ORANGE, ORANGE_DARK, "#ffffff")]
     for dx, dy, c1, c2, stud in specs:
         x, y = cx + dx - 26, cy + dy - 9
         out.append('<path d="M%s %s h10 v-3 h10 v3 h22 a5 5 0 0 1 5 5 v10 a5 5 0 0 1 -5 5 h-22 v3 h-10 v-3 h-10 '
@@ -1112,11 +1116,13 @@ def gen_menu_tile(kind, look):
     # the icon's round badge
     doc.add('<circle cx="46" cy="%s" r="34" fill="url(#badge)" stroke="%s" stroke-width="%s" filter="url(#tileShadow)"/>'
             % (f(45.5 + dy), rim if look != "normal" else "#4a6ca6", f(rw)))
-    doc.add('<path d="M22 %s A30 30 0 0 1 62 %s" fill="none" stroke="#ffffff" stroke-opacity="0.25" stroke-width="2" '
-            'stroke-linecap="round"/>' % (f(34 + dy), f(18 + dy)))
+    rad(doc, "well", [(0, "#22407a"), (0.7, "#14284f"), (1, "#0c1834")], cx=0.45, cy=0.35, r=0.7)
+    doc.add('<circle cx="46" cy="%s" r="28" fill="url(#well)" stroke="#0a1430" stroke-width="1"/>' % f(45.5 + dy))
+    doc.add('<path d="M16 %s A31 31 0 0 1 56 %s" fill="none" stroke="#ffffff" stroke-opacity="0.3" stroke-width="2" '
+            'stroke-linecap="round"/>' % (f(36 + dy), f(16 + dy)))
     icon = {"command": icon_bricks, "clock": icon_clock, "usb": icon_usb}[kind](46, 45.5 + dy)
     if kind == "command":
-        icon = '<g transform="translate(46 %s) scale(0.82) translate(-46 %s)">%s</g>' % (f(45.5 + dy), f(-45.5 - dy), icon)
+        icon = '<g transform="translate(46 %s) scale(0.74) translate(-46 %s)">%s</g>' % (f(45.5 + dy), f(-45.5 - dy), icon)
     doc.add('<g filter="url(#iconShadow)">%s</g>' % icon)
     shadow_filter(doc, "iconShadow", 1.5, 1.5, 0.5)
     # a faint accent line above the caption, and three status lights at the right
