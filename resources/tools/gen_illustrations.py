@@ -1019,9 +1019,9 @@ MENU_LOOKS = {
 
 def icon_bricks(cx, cy):
     out = []
-    specs = [(-6, 18, SHELL, SHELL_SHADE, JOINT), (6, 1, CYAN, "#1d9cc4", "#ffffff"),
+    layers = [(-6, 18, SHELL, SHELL_SHADE, JOINT), (6, 1, CYAN, "#1d9cc4", "#ffffff"),
              (-2, -16, ORANGE, ORANGE_DARK, "#ffffff")]
-    for dx, dy, c1, c2, stud in specs:
+    for dx, dy, c1, c2, stud in layers:
         x, y = cx + dx - 26, cy + dy - 9
         out.append('<path d="M%s %s h10 v-3 h10 v3 h22 a5 5 0 0 1 5 5 v10 a5 5 0 0 1 -5 5 h-22 v3 h-10 v-3 h-10 '
                    'a5 5 0 0 1 -5 -5 v-10 a5 5 0 0 1 5 -5 z" fill="%s" stroke="#0b1020" stroke-width="1.5" '
