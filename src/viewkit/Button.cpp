@@ -84,7 +84,8 @@ void Button::paintEvent(QPaintEvent*) {
     const Picture& picture = shownPicture();
     if (!picture.isNull()) {
         const QSizeF natural = picture.naturalSize();
-        picture.draw(painter, QRectF(QPointF(0, (height() - natural.height()) / 2.0), natural), devicePixelRatioF());
+        picture.draw(painter, QRectF(QPointF(0, (height() - natural.height()) / 2.0), natural),
+                     devicePixelRatioF());
     }
     drawCaption(painter);
 }

@@ -55,7 +55,7 @@ public:
     ButtonCallback ButtonAction = BtnAction;
     ButtonCallback ButtonEntered = BtnEntered;
     ButtonCallback ButtonExited = BtnExited;
-    void* frmControl[3] = {nullptr, nullptr, nullptr};  // contexts of action, entered, exited
+    void* frmControl[3] = {nullptr, nullptr, nullptr}; // contexts of action, entered, exited
 
 protected:
     void paintEvent(QPaintEvent* event) override;

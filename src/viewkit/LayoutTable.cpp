@@ -8,11 +8,12 @@ namespace {
 QString str(const char* s) {
     return s ? QString::fromUtf8(s) : QString();
 }
-}  // namespace
+} // namespace
 
 void SetCaption(NSImageViewS* view, const Caption& caption) {
     if (!view || !caption.text) return;
-    view->InitText(str(caption.text), caption.color, 0, caption.loc, QString::fromLatin1(kFontName), caption.size);
+    view->InitText(str(caption.text), caption.color, 0, caption.loc, QString::fromLatin1(kFontName),
+                   caption.size);
 }
 
 NSImageViewS* MakeView(NSViewS* parent, const Row& row) {
@@ -40,8 +41,8 @@ void Build(NSViewS* parent, std::initializer_list<Row> rows) {
         else if (row.image)
             *row.image = MakeView(parent, row);
         else
-            MakeView(parent, row);  // decoration nobody refers to again; owned by the parent
+            MakeView(parent, row); // decoration nobody refers to again; owned by the parent
     }
 }
 
-}  // namespace Layout
+} // namespace Layout

@@ -16,7 +16,7 @@ class NSViewS;
 namespace Layout {
 
 struct Caption {
-    const char* text = nullptr;  // none: the widget gets no caption
+    const char* text = nullptr; // none: the widget gets no caption
     QColor color;
     NSRect loc;
     int size = 16;
@@ -45,4 +45,4 @@ NSImageViewS* MakeView(NSViewS* parent, const Row& row);
 Button* MakeButton(NSViewS* parent, const Row& row);
 void SetCaption(NSImageViewS* view, const Caption& caption);
 
-}  // namespace Layout
+} // namespace Layout

@@ -19,8 +19,8 @@ void NSViewS::AddSubview(QWidget* parent, QWidget* child) {
     if (!parent || !child || parent == child) return;
     if (child->parentWidget() != parent) {
         // setParent() hides the widget; remember whether that was the caller's wish.
-        const bool hiddenOnPurpose =
-            child->testAttribute(Qt::WA_WState_ExplicitShowHide) && child->testAttribute(Qt::WA_WState_Hidden);
+        const bool hiddenOnPurpose = child->testAttribute(Qt::WA_WState_ExplicitShowHide) &&
+                                     child->testAttribute(Qt::WA_WState_Hidden);
         const QRect geometry = child->geometry();
         child->setParent(parent);
         child->setGeometry(geometry);
@@ -32,7 +32,7 @@ void NSViewS::AddSubview(QWidget* parent, QWidget* child) {
 QRect NSViewS::VisibleRect(const QWidget* widget) {
     if (!widget || !widget->isVisible()) return {};
     QRect visible = widget->rect();
-    QPoint offset(0, 0);  // the widget's origin in the current ancestor's coordinates
+    QPoint offset(0, 0); // the widget's origin in the current ancestor's coordinates
     for (const QWidget* w = widget; w && !w->isWindow(); w = w->parentWidget()) {
         offset += w->pos();
         const QWidget* parent = w->parentWidget();

@@ -8,7 +8,7 @@ namespace {
 QString resourcePath(const QString& name, const QString& suffix, const QString& type) {
     return QStringLiteral(":/pictures/") + name + suffix + QLatin1Char('.') + type;
 }
-}  // namespace
+} // namespace
 
 Picture Picture::Lookup(const QString& name, const QString& type) {
     Picture picture;
@@ -25,7 +25,7 @@ Picture Picture::Lookup(const QString& name, const QString& type) {
 QSizeF Picture::naturalSize() const {
     if (isNull()) return {};
     if (m_loaded) return m_pixmap.deviceIndependentSize();
-    return QImageReader(m_path).size();  // reads the header only
+    return QImageReader(m_path).size(); // reads the header only
 }
 
 QSizeF Picture::size() const {

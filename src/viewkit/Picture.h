@@ -34,7 +34,7 @@ private:
     QString m_name;
     QString m_type;
     QString m_path;
-    QSizeF m_size;  // invalid: natural size
+    QSizeF m_size; // invalid: natural size
     mutable QPixmap m_pixmap;
     mutable bool m_loaded = false;
     mutable qreal m_loadedRatio = 1.0;

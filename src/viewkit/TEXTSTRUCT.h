@@ -11,5 +11,5 @@ struct TEXTSTRUCT {
     QString textStorage;
     QColor textColor;
     QFont font;
-    NSRect rectFrame;  // only its origin is used: captions are neither clipped nor wrapped by it
+    NSRect rectFrame; // only its origin is used: captions are neither clipped nor wrapped by it
 };

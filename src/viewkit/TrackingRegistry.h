@@ -32,7 +32,7 @@ protected:
 private:
     struct Registration {
         QPointer<QWindow> window;
-        QRect rect;  // window coordinates
+        QRect rect; // window coordinates
         QPointer<Button> owner;
         bool inside = false;
     };

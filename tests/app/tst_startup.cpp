@@ -22,8 +22,9 @@ private slots:
         QCOMPARE(root->geometry(), QRect(0, 0, 1024, 768));
         QCOMPARE(app.window()->size(), QSize(1024, 768));
 
-        const QList<QWidget*> expected{root->frmMainMenu, root->frmScenario, root->frmAlarm, root->frmMovement,
-                                       root->frmSound,    root->frmFace,     root->frmLazer};
+        const QList<QWidget*> expected{root->frmMainMenu, root->frmScenario, root->frmAlarm,
+                                       root->frmMovement, root->frmSound,    root->frmFace,
+                                       root->frmLazer};
         QList<QWidget*> children;
         for (QObject* c : root->children())
             if (auto* w = qobject_cast<QWidget*>(c)) children << w;
