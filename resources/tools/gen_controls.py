@@ -151,10 +151,10 @@ def silver_half(name, side, look):
     if side == "left":
         # Body runs past the right edge so its shadow does not fade at the join.
         pill(svg, 3, SILVER_Y, 120, SILVER_H, r, look, corners=(r, r, r, r),
-             visible=(3, SILVER_Y, 87, SILVER_H, (r, 0, 0, r)))
+             visible=(3, SILVER_Y, 88, SILVER_H, (r, 0, 0, r)))
     else:
         pill(svg, -30, SILVER_Y, 120, SILVER_H, r, look, corners=(r, r, r, r),
-             visible=(2, SILVER_Y, 88, SILVER_H, (0, r, r, 0)))
+             visible=(0, SILVER_Y, 90, SILVER_H, (0, r, r, 0)))
         if look == "silver":
             # The seam: a groove over the left half's end, then a light edge.
             svg.add(el("rect", x=0, y=SILVER_Y + 0.5, width=1, height=SILVER_H - 1, fill="#8d98a8"))
@@ -404,7 +404,7 @@ def build():
 def main():
     pics = build()
     written = write_all(pics, os.path.join(ROOT, "pictures.tsv"), os.path.join(ROOT, "svg"))
-    print(f"wrote {len(written)} pictures to {os.path.join(ROOT, 'svg')}")
+    print(f"{len(pics)} pictures, {len(written)} changed, in {os.path.join(ROOT, 'svg')}")
 
 
 if __name__ == "__main__":

@@ -161,7 +161,7 @@ def read_manifest(path):
 
 
 def write_all(pictures, manifest_path, out_dir):
-    """Writes each Svg after checking its size against the manifest; returns the paths written."""
+    """Writes each Svg after checking its size against the manifest; returns the paths changed."""
     manifest = read_manifest(manifest_path)
     os.makedirs(out_dir, exist_ok=True)
     written = []
@@ -172,7 +172,13 @@ def write_all(pictures, manifest_path, out_dir):
         if (svg.w, svg.h) != (w, h):
             raise SystemExit(f"{name}: drawn at {svg.w}x{svg.h}, manifest says {w}x{h}")
         path = os.path.join(out_dir, svg_file_name(name))
+        text = svg.text()
+        # Unchanged files keep their time stamp, so the build renders only what changed.
+        if os.path.exists(path):
+            with open(path, encoding="utf-8") as f:
+                if f.read() == text:
+                    continue
         with open(path, "w", encoding="utf-8") as f:
-            f.write(svg.text())
+            f.write(text)
         written.append(path)
     return written
