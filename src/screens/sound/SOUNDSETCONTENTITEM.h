@@ -1,0 +1,16 @@
+#pragma once
+
+#include "SoundContentLoc.h"
+
+class Button;
+class NSImageViewS;
+
+// The timeline's items, three views each; entry n belongs to item n, and entries past the last
+// item stay empty.
+struct SOUNDSETCONTENTITEM {
+    Button* BtnButton[kSoundContentItemMax] = {};
+    NSImageViewS* strNumber[kSoundContentItemMax] = {};
+    NSImageViewS* imgLinkBar[kSoundContentItemMax] = {};
+    // The item whose arrival at the top row ends the running scroll: the target page's first.
+    qint32 iItemTargetNum = 0;
+};
