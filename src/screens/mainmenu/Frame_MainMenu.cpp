@@ -4,43 +4,151 @@
 #include "Frame_Control.h"
 #include "Frame_Scenario.h"
 #include "LayoutTable.h"
+#include "NSColor.h"
+
+#include <QTimer>
+
+namespace {
+
+// The three big menu buttons share one caption place; hover swaps only the colour.
+Layout::Caption MenuCaption(const char* text, const QColor& color) {
+    return {text, color, MakeNSRect(90, 53, 144, 93), 15};
+}
+
+const char* const kProgramText = "Program scenario";
+const char* const kAlarmText = "Alarm/Clock";
+const char* const kSyncText = "Synchronization";
+
+Frame_MainMenu* Menu(void* context) {
+    return static_cast<Frame_MainMenu*>(context);
+}
+
+} // namespace
 
 Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
-    Layout::Build(this, {
-                            {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "mainpage_bg"},
-                            {.button = &BtnProgram,
-                             .frame = MakeNSRect(607, 172, 250, 93),
-                             .up = "command_normal_menus",
-                             .move = "command_focused_menus",
-                             .down = "command_selected_menus",
-                             .hidden = true},
-                            {.button = &BtnAlarm,
-                             .frame = MakeNSRect(607, 297, 250, 93),
-                             .up = "clock_normal_menus",
-                             .move = "clock_focused_menus",
-                             .down = "clock_selected_menus",
-                             .hidden = true},
-                        });
+    Layout::Build(this,
+                  {
+                      {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "mainpage_bg"},
+                      {.image = &imgRobot, .frame = MakeNSRect(0, 768, 596, 584), .up = "logo_main"},
+                      {.button = &BtnProgram,
+                       .frame = MakeNSRect(607, 172, 250, 93),
+                       .up = "command_normal_menus",
+                       .move = "command_focused_menus",
+                       .down = "command_selected_menus",
+                       .hidden = true},
+                      {.button = &BtnAlarm,
+                       .frame = MakeNSRect(607, 297, 250, 93),
+                       .up = "clock_normal_menus",
+                       .move = "clock_focused_menus",
+                       .down = "clock_selected_menus",
+                       .hidden = true},
+                      {.button = &BtnSync,
+                       .frame = MakeNSRect(607, 421, 250, 93),
+                       .up = "usb_normal_menus",
+                       .move = "usb_focused_menus",
+                       .down = "usb_selected_menus",
+                       .hidden = true},
+                      {.button = &BtnSetting,
+                       .frame = MakeNSRect(689, 706, 85, 40),
+                       .up = "but_common_BtnSilver",
+                       .move = "but_common_over_BtnSilver",
+                       .down = "but_common_over_BtnSilver",
+                       .hidden = true},
+                      {.button = &BtnQuestion,
+                       .frame = MakeNSRect(56, 39, 29, 28),
+                       .up = "but_question",
+                       .move = "but_question_over",
+                       .down = "but_question_over"},
+                  });
+
+    // Qt keeps firing timers while a mouse button is held, so the slide goes on under a press.
+    timer = new QTimer(this);
+    timer->setTimerType(Qt::PreciseTimer);
+    timer->setInterval(kRobotTickMs);
+    connect(timer, &QTimer::timeout, this, &Frame_MainMenu::RobotAction);
+    timer->start();
+
+    InitInterWorking();
+}
+
+void Frame_MainMenu::InitInterWorking() {
+    BtnProgram->InitButtonEntered(Frame_MainMenu_ProgramBtnEntered, this);
+    BtnAlarm->InitButtonEntered(Frame_MainMenu_AlarmBtnEntered, this);
+    BtnSync->InitButtonEntered(Frame_MainMenu_SyncBtnEntered, this);
+    BtnProgram->InitButtonExited(Frame_MainMenu_ProgramBtnExited, this);
+    BtnAlarm->InitButtonExited(Frame_MainMenu_AlarmBtnExited, this);
+    BtnSync->InitButtonExited(Frame_MainMenu_SyncBtnExited, this);
+}
+
+void Frame_MainMenu::RobotAction() {
+    NSRect frame = imgRobot->frame();
+    float y = frame.y - kRobotStep;
+    if (!(y > kRobotRestY)) {
+        timer->stop();
+        ButtonTrackingOn();
+        y = kRobotRestY;
+    }
+    frame.y = y;
+    imgRobot->setFrame(frame);
+    imgRobot->update();
 }
 
 void Frame_MainMenu::ButtonTrackingOn() {
     BtnProgram->setHidden(false);
     BtnAlarm->setHidden(false);
-    RegisterHover({BtnProgram, BtnAlarm});
+    BtnSync->setHidden(false);
+    BtnSetting->setHidden(false);
+    RegisterHover({BtnProgram, BtnAlarm, BtnSync, BtnSetting, BtnQuestion});
+    Layout::SetCaption(BtnProgram, MenuCaption(kProgramText, NSColor::orangeColor()));
+    Layout::SetCaption(BtnAlarm, MenuCaption(kAlarmText, NSColor::orangeColor()));
+    Layout::SetCaption(BtnSync, MenuCaption(kSyncText, NSColor::orangeColor()));
+    Layout::SetCaption(BtnSetting, {"Settings", NSColor::blackColor(), MakeNSRect(6, 10, 85, 40), 14});
+}
+
+void Frame_MainMenu_ProgramBtnEntered(void* context, Button*) {
+    if (Frame_MainMenu* menu = Menu(context))
+        Layout::SetCaption(menu->BtnProgram, MenuCaption(kProgramText, NSColor::whiteColor()));
+}
+
+void Frame_MainMenu_AlarmBtnEntered(void* context, Button*) {
+    if (Frame_MainMenu* menu = Menu(context))
+        Layout::SetCaption(menu->BtnAlarm, MenuCaption(kAlarmText, NSColor::whiteColor()));
+}
+
+void Frame_MainMenu_SyncBtnEntered(void* context, Button*) {
+    if (Frame_MainMenu* menu = Menu(context))
+        Layout::SetCaption(menu->BtnSync, MenuCaption(kSyncText, NSColor::whiteColor()));
+}
+
+void Frame_MainMenu_ProgramBtnExited(void* context, Button*) {
+    if (Frame_MainMenu* menu = Menu(context))
+        Layout::SetCaption(menu->BtnProgram, MenuCaption(kProgramText, NSColor::orangeColor()));
+}
+
+void Frame_MainMenu_AlarmBtnExited(void* context, Button*) {
+    if (Frame_MainMenu* menu = Menu(context))
+        Layout::SetCaption(menu->BtnAlarm, MenuCaption(kAlarmText, NSColor::orangeColor()));
+}
+
+void Frame_MainMenu_SyncBtnExited(void* context, Button*) {
+    if (Frame_MainMenu* menu = Menu(context))
+        Layout::SetCaption(menu->BtnSync, MenuCaption(kSyncText, NSColor::orangeColor()));
 }
 
 void Frame_MainMenu_ScenarioBtnAcion(void* context, Button*) {
     auto* root = static_cast<Frame_Control*>(context);
+    if (!root) return;
     root->frmMainMenu->setHidden(true);
     root->frmScenario->setHidden(false);
 }
 
 void Frame_MainMenu_AlarmBtnAcion(void* context, Button*) {
     auto* root = static_cast<Frame_Control*>(context);
-    root->frmAlarm->frmPreframe = root->frmMainMenu;
-    root->frmMainMenu->setHidden(true);
-    root->frmAlarm->setHidden(false);
+    if (!root) return;
     Frame_Alarm* alarm = root->frmAlarm;
+    alarm->frmPreframe = root->frmMainMenu;
+    root->frmMainMenu->setHidden(true);
+    alarm->setHidden(false);
     RegisterHover({alarm->BtnQuestion, alarm->BtnBirthdayStatus, alarm->BtnWakeupStatus, alarm->BtnBack,
                    alarm->BtnDone});
 }

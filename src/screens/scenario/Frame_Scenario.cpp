@@ -1,11 +1,255 @@
 #include "Frame_Scenario.h"
 
+#include "Frame_MainMenu.h"
+#include "Frame_MoveMent.h"
 #include "LayoutTable.h"
+#include "NSColor.h"
+#include "ScenarioNotify.h"
 
-Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
-    Layout::Build(this, {
-                            {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
-                        });
+#include <QLineEdit>
+
+namespace {
+
+const char* const kHighlightBar = "long bar";
+
+Frame_Scenario* Screen(void* context) {
+    return static_cast<Frame_Scenario*>(context);
 }
 
-void Frame_Scenario::ButtonTrackingOn() {}
+template <qint32 Row> void NameBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (screen) screen->ApplyRowChange(screen->ChooseRow(Row));
+}
+
+} // namespace
+
+Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
+    Layout::Build(
+        this,
+        {
+            {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
+            {.button = &BtnBack,
+             .frame = MakeNSRect(714, 711, 85, 40),
+             .up = "but_common_BtnSilver",
+             .move = "but_common_over_BtnSilver",
+             .down = "but_common_over_BtnSilver",
+             .caption = {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}},
+            {.image = &txtAlarmDescription,
+             .frame = MakeNSRect(238, 57, 213, 155),
+             .caption =
+                 {"You can creat a new\nscenario with your\nown movements,\nsounds, laser beats\nand faces "
+                  "or modify\nan existing scenario.",
+                  NSColor::orangeColor(), MakeNSRect(0, 0, 209, 76), 16}},
+            {.image = &txtSiteTitle,
+             .frame = MakeNSRect(490, 93, 124, 18),
+             .caption = {"Program/", NSColor::grayColor(), MakeNSRect(0, 0, 124, 18), 16}},
+            {.image = &txtScenarioAct,
+             .frame = MakeNSRect(103, 317, 348, 18),
+             .caption = {"Choose an action:", NSColor::orangeColor(), MakeNSRect(0, 0, 348, 19), 16}},
+            {.button = &BtnCreate,
+             .frame = MakeNSRect(95, 350, 326, 46),
+             .up = "but_normal_Btn03",
+             .move = "but_over_Btn03",
+             .down = "but_selected_Btn03",
+             .caption = {"Create a new scenario", NSColor::whiteColor(), MakeNSRect(10, 10, 326, 46), 16}},
+            {.button = &BtnModify,
+             .frame = MakeNSRect(95, 421, 326, 46),
+             .up = "but_normal_Btn03",
+             .move = "but_over_Btn03",
+             .down = "but_selected_Btn03",
+             .caption = {"Modify exist scenario", NSColor::whiteColor(), MakeNSRect(10, 10, 326, 46), 16}},
+        });
+
+    BtnCreate->InitButtonAction(Frame_Scenario_CreateBtnAction, this);
+    BtnModify->InitButtonAction(Frame_Scenario_ModifyBtnAction, this);
+    BtnBack->InitButtonAction(Frame_Scenario_BackBtnAction, this);
+
+    InitView();
+    ButtonTrackingOn();
+    if (numOfList == 0) BtnModify->setHidden(true);
+}
+
+void Frame_Scenario::InitView() {
+    InitCreateScenarioView();
+    InitLoadScenarioView();
+    frmCreateScenarioView->setHidden(true);
+    frmLoadScenarioView->setHidden(true);
+}
+
+void Frame_Scenario::InitCreateScenarioView() {
+    frmCreateScenarioView = new NSViewS(MakeNSRect(534, 339, 372, 75));
+    addSubview(frmCreateScenarioView);
+    Layout::Build(frmCreateScenarioView,
+                  {{.image = &txtFieldGround, .frame = MakeNSRect(0, 0, 227, 72), .up = "textbox"}});
+
+    txtScenarioName = new QLineEdit;
+    txtScenarioName->setGeometry(MakeNSRect(17, 35, 193, 20).toRect());
+    txtScenarioName->setFrame(false);
+    scenarioNotify = new ScenarioNotify(this);
+    scenarioNotify->setTempScenario(this);
+    scenarioNotify->setDelegateOf(txtScenarioName);
+    frmCreateScenarioView->addSubview(txtScenarioName);
+
+    Layout::Build(frmCreateScenarioView,
+                  {{.button = &BtnNewCreate,
+                    .frame = MakeNSRect(257, 23, 111, 46),
+                    .up = "but_normal_Btn01",
+                    .move = "but_over_Btn01",
+                    .down = "but_selected_Btn01",
+                    .caption = {"Create", NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16}}});
+    BtnNewCreate->InitButtonAction(Frame_Scenario_GoMoveMentBtnAction, this);
+    BtnNewCreate->SetEnable(0);
+}
+
+void Frame_Scenario::InitLoadScenarioView() {
+    Fill();
+    frmLoadScenarioView = new NSViewS(MakeNSRect(518, 290, 414, 351));
+    addSubview(frmLoadScenarioView);
+
+    for (qint32 r = 0; r < kRows; ++r) {
+        const char* bar = r == 0 ? kHighlightBar : nullptr;
+        BtnScenarioName[r] = Layout::MakeButton(
+            frmLoadScenarioView,
+            {.frame = MakeNSRect(0, 36 * r, 414, 39), .up = bar, .move = bar, .down = bar});
+        SetNameCaption(r, name(r));
+        BtnScenarioName[r]->RegisterHover();
+    }
+
+    Layout::Build(frmLoadScenarioView, {
+                                           {.button = &BtnUpList,
+                                            .frame = MakeNSRect(212, 328, 48, 25),
+                                            .up = "ButtonSelectBarUp_common",
+                                            .move = "ButtonSelectBarUp_focus",
+                                            .down = "ButtonSelectBarUp_focus"},
+                                           {.button = &BtnDownList,
+                                            .frame = MakeNSRect(262, 328, 48, 25),
+                                            .up = "ButtonSelectBarDown_common",
+                                            .move = "ButtonSelectBarDown_focus",
+                                            .down = "ButtonSelectBarDown_focus"},
+                                           {.button = &BtnX,
+                                            .frame = MakeNSRect(312, 328, 48, 25),
+                                            .up = "Btn_X_up",
+                                            .move = "Btn_X_move",
+                                            .down = "Btn_X_move"},
+                                           {.button = &BtnGo,
+                                            .frame = MakeNSRect(362, 328, 48, 25),
+                                            .up = "Btn_Go_up",
+                                            .move = "Btn_Go_focus",
+                                            .down = "Btn_Go_focus"},
+                                       });
+
+    const ButtonCallback nameActions[kRows] = {Frame_Scenario_NameBtnAction0, Frame_Scenario_NameBtnAction1,
+                                               Frame_Scenario_NameBtnAction2, Frame_Scenario_NameBtnAction3,
+                                               Frame_Scenario_NameBtnAction4, Frame_Scenario_NameBtnAction5,
+                                               Frame_Scenario_NameBtnAction6};
+    for (qint32 r = 0; r < kRows; ++r) BtnScenarioName[r]->InitButtonAction(nameActions[r], this);
+    BtnUpList->InitButtonAction(Frame_Scenario_UpListBtnAction, this);
+    BtnDownList->InitButtonAction(Frame_Scenario_DownListBtnAction, this);
+    BtnX->InitButtonAction(Frame_Scenario_XBtnAction, this);
+    BtnGo->InitButtonAction(Frame_Scenario_GoMoveMentBtnAction, this);
+}
+
+void Frame_Scenario::ButtonTrackingOn() {
+    for (Button* row : BtnScenarioName)
+        if (row) row->RegisterHover();
+    RegisterHover({BtnBack, BtnNewCreate, BtnCreate, BtnModify, BtnUpList, BtnDownList, BtnX, BtnGo});
+}
+
+void Frame_Scenario::MarkRow(qint32 row) {
+    for (qint32 r = 0; r < shownRows(); ++r) {
+        const QString bar = r == row ? QString::fromLatin1(kHighlightBar) : QString();
+        BtnScenarioName[r]->InitImage(bar, bar, bar, r == row ? QStringLiteral("png") : QString(),
+                                      frmLoadScenarioView);
+    }
+}
+
+void Frame_Scenario::SetNameCaption(qint32 row, const QString& text) {
+    if (row < 0 || row >= kRows) return;
+    BtnScenarioName[row]->InitText(text, NSColor::whiteColor(), 0, MakeNSRect(12, 8, 111, 39),
+                                   QString::fromLatin1(Layout::kFontName), 16);
+}
+
+void Frame_Scenario::ApplyRowChange(const RowChange& change) {
+    if (change.listEmptied) {
+        frmLoadScenarioView->setHidden(true);
+        BtnModify->setHidden(true);
+        return;
+    }
+    if (change.hideRow >= 0 && change.hideRow < kRows) BtnScenarioName[change.hideRow]->setHidden(true);
+    if (change.markRow >= 0) MarkRow(change.markRow);
+    for (qint32 r = qMax(change.captionFrom, 0); r < qMin(change.captionTo, kRows); ++r)
+        SetNameCaption(r, name(firstShown() + r));
+}
+
+void Frame_Scenario_CreateBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (!screen) return;
+    screen->frmCreateScenarioView->setHidden(false);
+    screen->frmLoadScenarioView->setHidden(true);
+}
+
+void Frame_Scenario_ModifyBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (!screen) return;
+    screen->frmCreateScenarioView->setHidden(true);
+    screen->frmLoadScenarioView->setHidden(false);
+    if (screen->frmFrameRec.frmScenario) screen->frmFrameRec.frmScenario->ButtonTrackingOn();
+}
+
+void Frame_Scenario_GoMoveMentBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (!screen) return;
+    screen->frmCreateScenarioView->setHidden(true);
+    screen->frmLoadScenarioView->setHidden(true);
+    screen->setHidden(true);
+    Frame_MoveMent* movement = screen->frmFrameRec.frmMovement;
+    if (!movement) return;
+    movement->setHidden(false);
+    movement->ButtonTrackingOn();
+}
+
+void Frame_Scenario_BackBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (!screen) return;
+    screen->frmCreateScenarioView->setHidden(true);
+    screen->frmLoadScenarioView->setHidden(true);
+    screen->setHidden(true);
+    if (screen->frmFrameRec.frmMainMenu) screen->frmFrameRec.frmMainMenu->setHidden(false);
+}
+
+void Frame_Scenario_NameBtnAction0(void* context, Button* button) {
+    NameBtnAction<0>(context, button);
+}
+void Frame_Scenario_NameBtnAction1(void* context, Button* button) {
+    NameBtnAction<1>(context, button);
+}
+void Frame_Scenario_NameBtnAction2(void* context, Button* button) {
+    NameBtnAction<2>(context, button);
+}
+void Frame_Scenario_NameBtnAction3(void* context, Button* button) {
+    NameBtnAction<3>(context, button);
+}
+void Frame_Scenario_NameBtnAction4(void* context, Button* button) {
+    NameBtnAction<4>(context, button);
+}
+void Frame_Scenario_NameBtnAction5(void* context, Button* button) {
+    NameBtnAction<5>(context, button);
+}
+void Frame_Scenario_NameBtnAction6(void* context, Button* button) {
+    NameBtnAction<6>(context, button);
+}
+
+void Frame_Scenario_UpListBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (screen) screen->ApplyRowChange(screen->Up());
+}
+
+void Frame_Scenario_DownListBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (screen) screen->ApplyRowChange(screen->Down());
+}
+
+void Frame_Scenario_XBtnAction(void* context, Button*) {
+    Frame_Scenario* screen = Screen(context);
+    if (screen) screen->ApplyRowChange(screen->Remove());
+}
