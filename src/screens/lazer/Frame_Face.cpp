@@ -3,8 +3,8 @@
 #include "LayoutTable.h"
 
 Frame_Face::Frame_Face(const NSRect& frame) : NSViewS(frame) {
-    Layout::Build(this, {
-                            {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "scenario_bg"},
-                        });
+    Layout::Build(this,
+                  {
+                      {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "scenario_bg"},
+                  });
 }
-

@@ -1,16 +1,47 @@
 #pragma once
 
+#include "Button.h"
 #include "FRAMESRECORD.h"
-#include "NSImageViewS.h"
 
+// The page on which the user says which of the three robot configurations was built. The choice
+// shows only in this page's large picture; nothing else reads it.
 class Frame_Lazer : public NSViewS {
     Q_OBJECT
 public:
     explicit Frame_Lazer(const NSRect& frame);
 
-    // Hover registrations of the screen's buttons, made after the screen is shown.
+    // Hover registrations of the screen's buttons; every screen that shows this one calls it
+    // again after the showing, since a registration made while hidden never fires.
     void ButtonTrackingOn();
+    void InitInterWorking();
 
     NSImageViewS* imgBackGround = nullptr;
+    NSImageViewS* txtSiteTitle = nullptr;
+    Button* BtnMoveMent = nullptr;
+    Button* BtnSound = nullptr;
+    Button* BtnLazer = nullptr;
+    Button* BtnFace = nullptr;
+    Button* BtnPlay = nullptr;
+    NSImageViewS* txtAnimation = nullptr;
+    NSImageViewS* imgLazerType = nullptr;
+    qint32 LazerType = 0;
     FRAMESRECORD frmFrameRec;
+    NSImageViewS* txtLazerDescription = nullptr;
+    NSImageViewS* txtLazerTitle = nullptr;
+    NSImageViewS* txtLazerTag = nullptr;
+    Button* BtnLazer1 = nullptr;
+    Button* BtnLazer2 = nullptr;
+    Button* BtnLazer3 = nullptr;
+    Button* BtnBack = nullptr;
+
+private:
+    void InitView();
 };
+
+void Frame_Lazer_SoundBtnAcion(void* context, Button* button);
+void Frame_Lazer_MovementBtnAcion(void* context, Button* button);
+void Frame_Lazer_BtnFaceBtnAcion(void* context, Button* button);
+void Frame_Lazer_BtnPlayBtnAcion(void* context, Button* button);
+void Frame_Lazer_BtnLazer1BtnAcion(void* context, Button* button);
+void Frame_Lazer_BtnLazer2BtnAcion(void* context, Button* button);
+void Frame_Lazer_BtnLazer3BtnAcion(void* context, Button* button);
