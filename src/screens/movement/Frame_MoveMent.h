@@ -1,16 +1,82 @@
 #pragma once
 
+#include "Button.h"
 #include "FRAMESRECORD.h"
-#include "NSImageViewS.h"
+#include "PATHMAINSTRUCT.h"
 
+class QLineEdit;
+
+// The movement editor: tabs to the other editors, nine direction bricks, and the path view in
+// which a movement is drawn piece by piece from commands.
 class Frame_MoveMent : public NSViewS {
     Q_OBJECT
 public:
     explicit Frame_MoveMent(const NSRect& frame);
 
-    // Hover registrations of the screen's buttons, made after the screen is shown.
+    // Hover registrations of the screen's buttons, made by whoever shows the screen, after
+    // showing it.
     void ButtonTrackingOn();
 
+    // Deletes every widget the screen made; the fields are left null. Not for use from one of
+    // the screen's own callbacks, which would delete the button that is calling.
+    void ReleaseObj();
+
+    // One more piece for a movement command (0..8). On an empty path any command draws the first
+    // piece (an unknown one draws whatever slot 0 holds); on a path with pieces an unknown
+    // command, or any command once the path is full, changes nothing.
+    void SetPath(qint32 command);
+    void SetPathImageFirst();
+    void SetPathImageNormal(qint32 image);
+
     NSImageViewS* imgBackGround = nullptr;
+    NSImageViewS* txtString[5] = {};
+    QLineEdit* textText = nullptr; // reserved for a scenario name; never made
+    Button* BtnQuestion = nullptr;
+    Button* BtnMoveMent = nullptr;
+    Button* BtnSound = nullptr;
+    Button* BtnLazer = nullptr;
+    Button* BtnFace = nullptr;
+    Button* BtnPlay = nullptr;
+    Button* BtnMoveUp = nullptr;
+    Button* BtnMoveLeft = nullptr;
+    Button* BtnMoveDown = nullptr;
+    Button* BtnMoveRight = nullptr;
+    Button* BtnTurnRight = nullptr;
+    Button* BtnTrunLeft = nullptr;
+    Button* BtnCircleLeft = nullptr;
+    Button* BtnCircleRight = nullptr;
+    Button* BtnStop = nullptr;
+    Button* BtnSelectBar = nullptr;
+    Button* BtnArrowUp = nullptr;
+    Button* BtnArrowLeft = nullptr;
+    Button* BtnArrowDown = nullptr;
+    Button* BtnArrowRight = nullptr;
+    Button* BtnErase = nullptr;
+    Button* BtnRetPlay = nullptr;
+    Button* BtnBack = nullptr;
     FRAMESRECORD frmFrameRec;
+    PATHMAINSTRUCT PathInfo;
+
+private:
+    // Construction steps, in this order; the path view comes last so it lies above everything.
+    void TextInit();
+    void ButtonInit();
+    void InitInterWorking();
+    void InitPathFrame();
+
+    // Makes the view of the piece in slot iItemCnt and counts it.
+    void AddPiece(qint32 image, const NSRect& frame);
 };
+
+void Frame_Movement_SoundBtnAcion(void* context, Button* button);
+void Frame_Movement_BackBtnAcion(void* context, Button* button);
+void Frame_Movement_LazerBtnAcion(void* context, Button* button);
+void Frame_Movement_MoveUpBtnAcion(void* context, Button* button);
+void Frame_Movement_MoveLeftBtnAcion(void* context, Button* button);
+void Frame_Movement_MoveDownBtnAcion(void* context, Button* button);
+void Frame_Movement_MoveRightBtnAcion(void* context, Button* button);
+void Frame_Movement_TrunRightBtnAcion(void* context, Button* button);
+void Frame_Movement_TurnLeftBtnAcion(void* context, Button* button);
+void Frame_Movement_CircleLeftBtnAcion(void* context, Button* button);
+void Frame_Movement_CircleRightBtnAcion(void* context, Button* button);
+void Frame_Movement_StopBtnAcion(void* context, Button* button);

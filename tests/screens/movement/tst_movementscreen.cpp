@@ -1,0 +1,436 @@
+#include "AppHarness.h"
+#include "Frame_Control.h"
+#include "Frame_Lazer.h"
+#include "Frame_MainMenu.h"
+#include "Frame_MoveMent.h"
+#include "Frame_Scenario.h"
+#include "Frame_Sound.h"
+#include "NSColor.h"
+#include "TrackingRegistry.h"
+
+#include <QDir>
+#include <QMouseEvent>
+#include <QTest>
+
+#include <vector>
+
+Q_DECLARE_METATYPE(NSRect)
+
+char* toString(const NSRect& r) {
+    return QTest::toString(r.toRectF());
+}
+
+namespace {
+
+using ButtonField = Button* Frame_MoveMent::*;
+
+struct ButtonRow {
+    const char* field;
+    ButtonField member;
+};
+
+// The screen's buttons in field order.
+const std::vector<ButtonRow>& Buttons() {
+    static const std::vector<ButtonRow> rows{
+        {"BtnQuestion", &Frame_MoveMent::BtnQuestion},
+        {"BtnMoveMent", &Frame_MoveMent::BtnMoveMent},
+        {"BtnSound", &Frame_MoveMent::BtnSound},
+        {"BtnLazer", &Frame_MoveMent::BtnLazer},
+        {"BtnFace", &Frame_MoveMent::BtnFace},
+        {"BtnPlay", &Frame_MoveMent::BtnPlay},
+        {"BtnMoveUp", &Frame_MoveMent::BtnMoveUp},
+        {"BtnMoveLeft", &Frame_MoveMent::BtnMoveLeft},
+        {"BtnMoveDown", &Frame_MoveMent::BtnMoveDown},
+        {"BtnMoveRight", &Frame_MoveMent::BtnMoveRight},
+        {"BtnTurnRight", &Frame_MoveMent::BtnTurnRight},
+        {"BtnTrunLeft", &Frame_MoveMent::BtnTrunLeft},
+        {"BtnCircleLeft", &Frame_MoveMent::BtnCircleLeft},
+        {"BtnCircleRight", &Frame_MoveMent::BtnCircleRight},
+        {"BtnStop", &Frame_MoveMent::BtnStop},
+        {"BtnSelectBar", &Frame_MoveMent::BtnSelectBar},
+        {"BtnArrowUp", &Frame_MoveMent::BtnArrowUp},
+        {"BtnArrowLeft", &Frame_MoveMent::BtnArrowLeft},
+        {"BtnArrowDown", &Frame_MoveMent::BtnArrowDown},
+        {"BtnArrowRight", &Frame_MoveMent::BtnArrowRight},
+        {"BtnErase", &Frame_MoveMent::BtnErase},
+        {"BtnRetPlay", &Frame_MoveMent::BtnRetPlay},
+        {"BtnBack", &Frame_MoveMent::BtnBack},
+    };
+    return rows;
+}
+
+ButtonField Field(const QString& name) {
+    for (const ButtonRow& row : Buttons())
+        if (name == QLatin1String(row.field)) return row.member;
+    return nullptr;
+}
+
+QWidget* ScreenNamed(Frame_Control* root, const QString& name) {
+    if (name == "main menu") return root->frmMainMenu;
+    if (name == "scenario") return root->frmScenario;
+    if (name == "sound") return root->frmSound;
+    if (name == "laser") return root->frmLazer;
+    return nullptr;
+}
+
+// Counts the presses a widget itself is offered.
+class PressSpy : public QObject {
+public:
+    int presses = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress) ++presses;
+        return false;
+    }
+};
+
+} // namespace
+
+// The movement screen in the real window, driven by the mouse.
+class TestMovementScreen : public QObject {
+    Q_OBJECT
+
+    // Comes into the movement screen from `origin` the way every screen that opens it does:
+    // origin hidden, this screen shown, then its hover registrations.
+    static Frame_MoveMent* EnterFrom(AppHarness& app, QWidget* origin) {
+        Frame_Control* root = app.root();
+        // The user is on `origin`...
+        for (QWidget* screen : app.shownScreens()) screen->setHidden(true);
+        origin->setHidden(false);
+        // ...and its control leads here.
+        origin->setHidden(true);
+        root->frmMovement->setHidden(false);
+        root->frmMovement->ButtonTrackingOn();
+        return root->frmMovement;
+    }
+
+private slots:
+    void widgetsInCreationOrder() {
+        AppHarness app;
+        Frame_MoveMent* screen = app.root()->frmMovement;
+        QList<QWidget*> expected{screen->imgBackGround};
+        for (NSImageViewS* caption : screen->txtString) expected << caption;
+        for (const ButtonRow& row : Buttons()) expected << screen->*row.member;
+        expected << screen->PathInfo.frmPath;
+        QList<QWidget*> children;
+        for (QObject* c : screen->children())
+            if (auto* w = qobject_cast<QWidget*>(c)) children << w;
+        QCOMPARE(children, expected); // stacking order: the path view on top of everything
+        QVERIFY(!screen->textText);
+        QCOMPARE(screen->imgBackGround->frame(), MakeNSRect(0, 0, 1024, 768));
+        QCOMPARE(screen->imgBackGround->imgDefault.name(), QStringLiteral("scenario_bg"));
+        QCOMPARE(screen->imgBackGround->imgDefault.size(), QSizeF(1024, 768));
+    }
+
+    void captions_data() {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<NSRect>("frame");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("help")
+            << 0 << MakeNSRect(238, 69, 206, 137)
+            << "Click on bricks to\nbuild my movement. You\ncan also add movement\nof existing scenarios.";
+        QTest::newRow("program") << 1 << MakeNSRect(488, 90, 89, 25) << "Program/";
+        QTest::newRow("movement") << 2 << MakeNSRect(561, 219, 103, 25) << "Movement";
+        QTest::newRow("bricks") << 3 << MakeNSRect(106, 292, 140, 24) << "Movement bricks";
+        QTest::newRow("movements of") << 4 << MakeNSRect(106, 587, 119, 22) << "Movements of";
+    }
+    void captions() {
+        QFETCH(int, index);
+        QFETCH(NSRect, frame);
+        QFETCH(QString, text);
+        AppHarness app;
+        NSImageViewS* caption = app.root()->frmMovement->txtString[index];
+        QCOMPARE(caption->frame(), frame);
+        QVERIFY(caption->imgDefault.isNull());
+        QCOMPARE(caption->captionText(), text);
+        QCOMPARE(caption->captionColor(), NSColor::orangeColor());
+        QCOMPARE(caption->Text.rectFrame,
+                 MakeNSRect(0, 0, static_cast<int>(frame.width), static_cast<int>(frame.height)));
+        QCOMPARE(caption->Text.font.pixelSize(), 15);
+        QCOMPARE(caption->Text.font.family(), QStringLiteral("Courier"));
+    }
+
+    void buttons_data() {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<NSRect>("frame");
+        QTest::addColumn<QStringList>("pictures");
+        auto row = [](const char* field, NSRect frame, const char* up, const char* move, const char* down) {
+            QTest::newRow(field) << QString::fromLatin1(field) << frame << QStringList{up, move, down};
+        };
+        row("BtnQuestion", MakeNSRect(57, 37, 29, 28), "but_question", "but_question_over",
+            "but_question_over");
+        row("BtnMoveMent", MakeNSRect(498, 199, 64, 63), "movement_over", "movement_over", "movement_over");
+        row("BtnSound", MakeNSRect(663, 199, 64, 63), "sound", "sound_over", "sound_over");
+        row("BtnLazer", MakeNSRect(733, 199, 64, 63), "lazer", "lazer_over", "lazer_over");
+        row("BtnFace", MakeNSRect(802, 199, 64, 63), "face", "face_over", "face_over");
+        row("BtnPlay", MakeNSRect(873, 199, 64, 63), "play", "play_over", "play_over");
+        row("BtnMoveUp", MakeNSRect(234, 339, 62, 62), "ButtonArrowUp_common", "ButtonArrowUp_focus",
+            "ButtonArrowUp_focus");
+        row("BtnMoveLeft", MakeNSRect(170, 377, 62, 62), "ButtonArrowLeft_common", "ButtonArrowLeft_focus",
+            "ButtonArrowLeft_focus");
+        row("BtnMoveDown", MakeNSRect(234, 413, 62, 62), "ButtonArrowDown_common", "ButtonArrowDown_focus",
+            "ButtonArrowDown_focus");
+        row("BtnMoveRight", MakeNSRect(299, 377, 62, 62), "ButtonArrowRight_common", "ButtonArrowRight_focus",
+            "ButtonArrowRight_focus");
+        row("BtnTurnRight", MakeNSRect(111, 497, 62, 62), "ButtonArrowTurnRight_common",
+            "ButtonArrowTurnRight_focus", "ButtonArrowTurnRight_focus");
+        row("BtnTrunLeft", MakeNSRect(175, 497, 62, 62), "ButtonArrowTurnLeft_common",
+            "ButtonArrowTurnLeft_focus", "ButtonArrowTurnLeft_focus");
+        row("BtnCircleLeft", MakeNSRect(239, 497, 62, 62), "ButtonArrowArroundLeft_common",
+            "ButtonArrowArroundLeft_focus", "ButtonArrowArroundLeft_focus");
+        row("BtnCircleRight", MakeNSRect(304, 497, 62, 62), "ButtonArrowArroundRight_common",
+            "ButtonArrowArroundRight_focus", "ButtonArrowArroundRight_focus");
+        row("BtnStop", MakeNSRect(366, 497, 62, 62), "ButtonArrowStop_common", "ButtonArrowStop_focus",
+            "ButtonArrowStop_focus");
+        row("BtnSelectBar", MakeNSRect(100, 612, 344, 44), "SelectBarArrow_common", "SelectBarArrow_focus",
+            "SelectBarArrow_focus");
+        row("BtnArrowUp", MakeNSRect(867, 586, 36, 38), "ButtonSmallCircleUp_common",
+            "ButtonSmallCircleUp_focus", "ButtonSmallCircleUp_focus");
+        row("BtnArrowLeft", MakeNSRect(835, 609, 36, 38), "ButtonSmallCircleLeft_common",
+            "ButtonSmallCircleLeft_focus", "ButtonSmallCircleLeft_focus");
+        row("BtnArrowDown", MakeNSRect(867, 632, 36, 38), "ButtonSmallCircleDown_common",
+            "ButtonSmallCircleDown_focus", "ButtonSmallCircleDown_focus");
+        row("BtnArrowRight", MakeNSRect(898, 609, 36, 38), "ButtonSmallCircleRight_common",
+            "ButtonSmallCircleRight_focus", "ButtonSmallCircleRight_focus");
+        row("BtnErase", MakeNSRect(515, 712, 93, 40), "but_common_long_left_BtnSilver",
+            "but_common_long_left_over_BtnSilver", "but_common_long_left_over_BtnSilver");
+        row("BtnRetPlay", MakeNSRect(606, 712, 93, 40), "but_common_long_right_BtnSilver",
+            "but_common_long_right_over_BtnSilver", "but_common_long_right_over_BtnSilver");
+        row("BtnBack", MakeNSRect(715, 712, 85, 40), "but_common_BtnSilver", "but_common_over_BtnSilver",
+            "but_common_over_BtnSilver");
+    }
+    void buttons() {
+        QFETCH(QString, field);
+        QFETCH(NSRect, frame);
+        QFETCH(QStringList, pictures);
+        AppHarness app;
+        Frame_MoveMent* screen = app.root()->frmMovement;
+        Button* button = screen->*Field(field);
+        QVERIFY(button);
+        QCOMPARE(button->frame(), frame);
+        QCOMPARE((QStringList{button->BtnImageUp.name(), button->BtnImageMove.name(),
+                              button->BtnImageDown.name()}),
+                 pictures);
+        QCOMPARE(button->bEnable, qint8(1));
+        QVERIFY(!button->isHidden());
+        // Hover callbacks are the do-nothing defaults on every button of this screen.
+        QVERIFY(button->ButtonEntered == &BtnEntered && button->ButtonExited == &BtnExited);
+        if (field == "BtnErase") {
+            QCOMPARE(button->captionText(), QStringLiteral("Erase"));
+            QCOMPARE(button->captionColor(), NSColor::grayColor());
+            QCOMPARE(button->Text.rectFrame, MakeNSRect(22, 11, 46, 18));
+            QCOMPARE(button->Text.font.pixelSize(), 15);
+        } else if (field == "BtnBack") {
+            QCOMPARE(button->captionText(), QStringLiteral("Back"));
+            QCOMPARE(button->captionColor(), NSColor::blackColor());
+            QCOMPARE(button->Text.rectFrame, MakeNSRect(17, 11, 50, 16));
+            QCOMPARE(button->Text.font.pixelSize(), 15);
+        } else {
+            QVERIFY(!button->hasCaption());
+        }
+    }
+
+    void actionsWithTheScreenAsContext() {
+        AppHarness app;
+        Frame_MoveMent* s = app.root()->frmMovement;
+        const std::vector<std::pair<Button*, ButtonCallback>> acting{
+            {s->BtnSound, &Frame_Movement_SoundBtnAcion},
+            {s->BtnBack, &Frame_Movement_BackBtnAcion},
+            {s->BtnLazer, &Frame_Movement_LazerBtnAcion},
+            {s->BtnMoveUp, &Frame_Movement_MoveUpBtnAcion},
+            {s->BtnMoveLeft, &Frame_Movement_MoveLeftBtnAcion},
+            {s->BtnMoveDown, &Frame_Movement_MoveDownBtnAcion},
+            {s->BtnMoveRight, &Frame_Movement_MoveRightBtnAcion},
+            {s->BtnTurnRight, &Frame_Movement_TrunRightBtnAcion},
+            {s->BtnTrunLeft, &Frame_Movement_TurnLeftBtnAcion},
+            {s->BtnCircleLeft, &Frame_Movement_CircleLeftBtnAcion},
+            {s->BtnCircleRight, &Frame_Movement_CircleRightBtnAcion},
+            {s->BtnStop, &Frame_Movement_StopBtnAcion},
+        };
+        for (const auto& [button, callback] : acting) {
+            QVERIFY(button->ButtonAction == callback);
+            QCOMPARE(button->frmControl[0], static_cast<void*>(s));
+        }
+        for (Button* idle :
+             {s->BtnQuestion, s->BtnMoveMent, s->BtnFace, s->BtnPlay, s->BtnSelectBar, s->BtnArrowUp,
+              s->BtnArrowLeft, s->BtnArrowDown, s->BtnArrowRight, s->BtnErase, s->BtnRetPlay}) {
+            QVERIFY(idle->ButtonAction == &BtnAction);
+            QVERIFY(!idle->frmControl[0]);
+        }
+    }
+
+    // Every way into the screen, and every way out.
+    void navigation_data() {
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("to");
+        for (const char* from : {"scenario", "sound", "laser"}) {
+            QTest::addRow("from %s, sound tab", from) << from << "BtnSound"
+                                                      << "sound";
+            QTest::addRow("from %s, laser tab", from) << from << "BtnLazer"
+                                                      << "laser";
+            QTest::addRow("from %s, Back", from) << from << "BtnBack"
+                                                 << "main menu";
+        }
+    }
+    void navigation() {
+        QFETCH(QString, from);
+        QFETCH(QString, control);
+        QFETCH(QString, to);
+        AppHarness app;
+        QVERIFY(app.waitForMainMenuReady());
+        Frame_Control* root = app.root();
+        Frame_MoveMent* screen = EnterFrom(app, ScreenNamed(root, from));
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
+        const int menuRegistrations =
+            TrackingRegistry::instance().registrationCount(root->frmMainMenu->BtnProgram);
+
+        app.click(screen->*Field(control));
+
+        QCOMPARE(app.shownScreen(), ScreenNamed(root, to));
+        QVERIFY(screen->isHidden());
+        // Only Back brings the main menu alive again, with one more hover registration.
+        QCOMPARE(TrackingRegistry::instance().registrationCount(root->frmMainMenu->BtnProgram),
+                 menuRegistrations + (to == "main menu" ? 1 : 0));
+    }
+
+    // The press shows the pressed picture, the release the resting one; nothing else moves.
+    void pressChangesOnlyTheButtonsOwnPicture_data() {
+        QTest::addColumn<QString>("field");
+        for (const char* field :
+             {"BtnMoveUp",    "BtnMoveLeft",   "BtnMoveDown",    "BtnMoveRight", "BtnTurnRight",
+              "BtnTrunLeft",  "BtnCircleLeft", "BtnCircleRight", "BtnStop",      "BtnQuestion",
+              "BtnMoveMent",  "BtnFace",       "BtnPlay",        "BtnSelectBar", "BtnArrowUp",
+              "BtnArrowLeft", "BtnArrowDown",  "BtnArrowRight",  "BtnErase",     "BtnRetPlay"})
+            QTest::newRow(field) << QString::fromLatin1(field);
+    }
+    void pressChangesOnlyTheButtonsOwnPicture() {
+        QFETCH(QString, field);
+        AppHarness app;
+        Frame_MoveMent* screen = EnterFrom(app, app.root()->frmScenario);
+        Button* pressed = screen->*Field(field);
+        // A point of the button that the path view does not cover.
+        const QPoint at = app.at(pressed, QPoint(pressed->width() / 2, pressed->height() - 2));
+
+        app.moveTo(at);
+        app.press(at);
+        QCOMPARE(pressed->look(), Button::Look::Down);
+        QCOMPARE(pressed->shownPictureName(), pressed->BtnImageDown.name());
+        for (const ButtonRow& row : Buttons())
+            if (screen->*row.member != pressed) QCOMPARE((screen->*row.member)->look(), Button::Look::Up);
+
+        app.release(at);
+        QCOMPARE(pressed->look(), Button::Look::Up);
+        QCOMPARE(pressed->shownPictureName(), pressed->BtnImageUp.name());
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
+        QCOMPARE(screen->PathInfo.iItemCnt, 0);
+        QVERIFY(screen->PathInfo.frmPath->children().isEmpty());
+    }
+
+    // The path view lies over the top of the small arrows: presses there are the path view's.
+    void pressUnderThePathViewReachesThePathView_data() {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QPoint>("local");
+        QTest::addColumn<bool>("covered");
+        QTest::newRow("up, top") << "BtnArrowUp" << QPoint(18, 10) << true;
+        QTest::newRow("up, last covered row") << "BtnArrowUp" << QPoint(18, 35) << true;
+        QTest::newRow("up, bottom rows") << "BtnArrowUp" << QPoint(18, 36) << false;
+        QTest::newRow("left, top") << "BtnArrowLeft" << QPoint(18, 5) << true;
+        QTest::newRow("left, below the path view") << "BtnArrowLeft" << QPoint(18, 20) << false;
+        QTest::newRow("right, top-left corner") << "BtnArrowRight" << QPoint(3, 5) << true;
+        QTest::newRow("right, top beside the corner") << "BtnArrowRight" << QPoint(12, 5) << false;
+        QTest::newRow("down, not covered") << "BtnArrowDown" << QPoint(18, 2) << false;
+    }
+    void pressUnderThePathViewReachesThePathView() {
+        QFETCH(QString, field);
+        QFETCH(QPoint, local);
+        QFETCH(bool, covered);
+        AppHarness app;
+        Frame_MoveMent* screen = EnterFrom(app, app.root()->frmSound);
+        Button* button = screen->*Field(field);
+        PressSpy spy;
+        screen->PathInfo.frmPath->installEventFilter(&spy);
+
+        const QPoint at = app.at(button, local);
+        app.moveTo(at);
+        // Hover still reaches the covered part: the registration is the button's whole rectangle.
+        const Button::Look pointedAt = button->look();
+        app.press(at);
+        QCOMPARE(spy.presses, covered ? 1 : 0);
+        QCOMPARE(button->look(), covered ? pointedAt : Button::Look::Down);
+        app.release(at);
+        QCOMPARE(button->look(), covered ? pointedAt : Button::Look::Up);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
+    }
+
+    void hoverOnlyAfterTheScreenIsShown() {
+        AppHarness app;
+        Frame_Control* root = app.root();
+        Frame_MoveMent* screen = root->frmMovement;
+        // Shown without its hover registrations, nothing reacts to pointing.
+        root->frmMainMenu->setHidden(true);
+        screen->setHidden(false);
+        app.moveTo(screen->BtnStop);
+        QCOMPARE(screen->BtnStop->look(), Button::Look::Up);
+        app.moveTo(QPoint(5, 760));
+
+        screen->setHidden(true);
+        EnterFrom(app, root->frmLazer);
+        app.moveTo(screen->BtnStop);
+        QCOMPARE(screen->BtnStop->look(), Button::Look::Move);
+        QCOMPARE(screen->BtnStop->shownPictureName(), QStringLiteral("ButtonArrowStop_focus"));
+        app.moveTo(screen->BtnMoveMent);
+        QCOMPARE(screen->BtnStop->look(), Button::Look::Up);
+        QCOMPARE(screen->BtnMoveMent->shownPictureName(), QStringLiteral("movement_over"));
+    }
+
+    void eachShowingAddsOneRegistrationPerButton() {
+        AppHarness app;
+        QVERIFY(app.waitForMainMenuReady());
+        Frame_Control* root = app.root();
+        Frame_MoveMent* screen = root->frmMovement;
+        for (int shown = 1; shown <= 3; ++shown) {
+            EnterFrom(app, root->frmScenario);
+            for (const ButtonRow& row : Buttons())
+                QCOMPARE(TrackingRegistry::instance().registrationCount(screen->*row.member), shown);
+            app.click(screen->BtnBack);
+            QCOMPARE(app.shownScreen(), static_cast<QWidget*>(root->frmMainMenu));
+        }
+    }
+
+    // The path is drawn into the path view and clipped by it; it stays across showings.
+    void aDozenCommandsDrawnIntoThePathView() {
+        AppHarness app;
+        Frame_Control* root = app.root();
+        Frame_MoveMent* screen = EnterFrom(app, root->frmScenario);
+        QVERIFY(app.grab(QDir::temp().filePath("movement-screen.png")));
+
+        const QList<int> commands{2, 0, 3, 4, 0, 3, 0, 1, 3, 0, 5, 6};
+        const QList<NSRect> frames{{0, 307, 46, 42},     {46, 257, 66, 73},    {63, 212, 45, 45},
+                                   {108, 152, 106, 105}, {214, 185, 66, 73},   {231, 140, 45, 45},
+                                   {276, 112, 66, 73},   {282, 70, 45, 42},    {237, 32, 45, 45},
+                                   {282, 4, 66, 73},     {227, -99, 106, 103}, {194, -102.5f, 33, 33}};
+        for (int command : commands) screen->SetPath(command);
+        QCOMPARE(screen->PathInfo.iItemCnt, 12);
+        for (int i = 0; i < frames.size(); ++i) {
+            NSImageViewS* piece = screen->PathInfo.Item[i].PathImg;
+            QVERIFY(piece->frame() == frames[i]);
+            QCOMPARE(piece->parentWidget(), static_cast<QWidget*>(screen->PathInfo.frmPath));
+            QVERIFY(piece->isVisible());
+        }
+        // The path view cuts off what lies outside it: of the wide turn only the lowest rows show,
+        // the circle above it not at all.
+        QCOMPARE(NSViewS::VisibleRect(screen->PathInfo.Item[10].PathImg), QRect(0, 99, 106, 4));
+        QVERIFY(NSViewS::VisibleRect(screen->PathInfo.Item[11].PathImg).isEmpty());
+
+        app.click(screen->BtnSound);
+        EnterFrom(app, root->frmSound);
+        QCOMPARE(screen->PathInfo.iItemCnt, 12);
+        QVERIFY(screen->PathInfo.Item[11].PathImg->isVisible());
+        QVERIFY(app.grab(QDir::temp().filePath("movement-path.png")));
+    }
+};
+
+QTEST_MAIN(TestMovementScreen)
+#include "tst_movementscreen.moc"
