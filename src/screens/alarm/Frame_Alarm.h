@@ -1,17 +1,141 @@
 #pragma once
 
 #include "Button.h"
+#include "DateFormatter.h"
 
+#include <QString>
+
+#include <memory>
+
+class QDateEdit;
+class QDateTimeEdit;
+class QTimeEdit;
+class QTimer;
+
+// The alarm clock: a choose page with the two alarm statuses, a birthday page (on/off, date,
+// time), a wake-up page (on/off, time, frequency) and a confirmation page shown for a while
+// after Done. The pages are sub-views shown and hidden; nothing is made or destroyed after
+// construction but the date formatters and the confirmation timers.
 class Frame_Alarm : public NSViewS {
     Q_OBJECT
 public:
     explicit Frame_Alarm(const NSRect& frame);
 
+    void InitView();
+    void InitChooseView();
+    void InitBirthdayControlView();
+    void InitBirthDateEditView();
+    void InitBirthTimeEditView();
+    void InitWakeupTimeEditView();
+    void InitBirthTimeDateButtonView();
+    void InitWakeupControlView();
+    void InitWakeupTimeFreqButtonView();
+    void InitDoneView();
+
+    void InitAlarmInterWorking();
+    void InitBackBtnToMainMenuInterWorking();
+    void InitBackBtnToChooseInterWorking();
+    // The statuses and the description of the choose page, and Back leading to the main menu.
+    void ChoosePageRefresh();
+    // Leaves the confirmation page (or Done with the alarm off) for the choose page.
+    void DoneView();
+
+    // Deletes the widgets it names and forgets them; nothing calls it while the application runs.
+    void ReleaseObj();
+
+    // How long the confirmation page stays after Done.
+    static constexpr int kConfirmationMs = 5000;
+
+    NSImageViewS* txtSiteTitle = nullptr;
+    NSImageViewS* txtChooseTitle = nullptr;
+    NSImageViewS* txtCheckTimeDateTitle = nullptr;
+    NSImageViewS* txtBirthDateTitle = nullptr;
+    NSImageViewS* txtBirthTimeTitle = nullptr;
     NSImageViewS* imgBackGround = nullptr;
+    NSImageViewS* txtFieldGround = nullptr;
+    NSImageViewS* txtBirthTimeFieldGround = nullptr;
+    NSImageViewS* txtWakeupTimeFieldGround = nullptr;
+    QTimer* timer = nullptr; // the last confirmation timer
+    NSImageViewS* imgDoneBackGround = nullptr;
+    NSImageViewS* txtDoneSiteTitle = nullptr;
+    NSImageViewS* txtDoneBigTitle = nullptr;
+    NSImageViewS* txtBigTitle = nullptr;
+    NSImageViewS* txtAlarmDescription = nullptr;
+    NSImageViewS* txtWakeupTimeTitle = nullptr;
+    NSImageViewS* txtWakeupFreqTitle = nullptr;
+    NSImageViewS* txtWakeupTitle = nullptr;
+    NSImageViewS* txtDoneMessage = nullptr;
     Button* BtnQuestion = nullptr;
     Button* BtnBirthdayStatus = nullptr;
     Button* BtnWakeupStatus = nullptr;
     Button* BtnBack = nullptr;
     Button* BtnDone = nullptr;
-    NSViewS* frmPreframe = nullptr;
+    Button* BtnBirthdayOn = nullptr;
+    Button* BtnBirthdayOff = nullptr;
+    Button* BtnBirthTime = nullptr;
+    Button* BtnBirthDate = nullptr;
+    Button* BtnBirthDateSet = nullptr;
+    Button* BtnBirthTimeSet = nullptr;
+    Button* BtnWakeupTimeSet = nullptr;
+    Button* BtnWakeupOn = nullptr;
+    Button* BtnWakeupOff = nullptr;
+    Button* BtnWakeupTime = nullptr;
+    Button* BtnWakeupFreq1 = nullptr;
+    Button* BtnWakeupFreq2 = nullptr;
+    Button* BtnWakeupFreq3 = nullptr;
+    NSViewS* frmPreframe = nullptr; // where Back leads from the choose page; not owned
+    NSViewS* frmChooseView = nullptr;
+    NSViewS* frmBirthTimeDateButtonView = nullptr;
+    NSViewS* frmBirthdayControlView = nullptr;
+    NSViewS* frmBirthDateEditView = nullptr;
+    NSViewS* frmWakeupControlView = nullptr;
+    NSViewS* frmWakeupTimeFreqButtonView = nullptr;
+    NSViewS* frmBirthTimeEditView = nullptr;
+    NSViewS* frmWakeupTimeEditView = nullptr;
+    NSViewS* frmDoneView = nullptr;
+    QDateEdit* txtBirthDate = nullptr;
+    QTimeEdit* txtBirthTime = nullptr;
+    QTimeEdit* txtWakeupTime = nullptr;
+    std::unique_ptr<DateFormatter> forBirthDateFormatter;
+    std::unique_ptr<DateFormatter> forBirthTimeFormatter;
+    std::unique_ptr<DateFormatter> forWakeupTimeFormatter;
+    qint32 flagBirthdayWakeup = 0; // 0 no alarm page yet, 1 birthday page last, 2 wake-up page last
+    qint32 enableBirthday = 0;
+    qint32 enableWakeup = 0;
+    qint32 typeFrequency = 0; // 0 "Once", 1 "Daily", 2 "Friday To Monday"
+    QString formattedBirthDateString;
+    QString formattedBirthTimeString;
+    QString formattedWakeupTimeString;
+
+private:
+    // One editor: its sub-view over the shared place, the "textbox" background, the picker
+    // showing the given elements at the moment the screen was made, the first text, and Set.
+    void InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTimeEdit* picker, int elements,
+                      std::unique_ptr<DateFormatter>& formatter, const char* format, QString& text,
+                      Button*& setButton);
+
+    QDateTime m_createdAt; // what every picker starts at
 };
+
+// Formats of the texts shown on the date and time buttons: fields apart by a slash, the time too.
+inline const char* const kAlarmDateFormat = "%Y/%m/%d";
+inline const char* const kAlarmTimeFormat = "%H/%M";
+
+void Frame_Alarm_BirthdayBtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupBtnAction(void* context, Button* button);
+void Frame_Alarm_BirthOnBtnAction(void* context, Button* button);
+void Frame_Alarm_BirthOffBtnAction(void* context, Button* button);
+void Frame_Alarm_BirthDateBtnAction(void* context, Button* button);
+void Frame_Alarm_BirthDateSetBtnAction(void* context, Button* button);
+void Frame_Alarm_BirthTimeBtnAction(void* context, Button* button);
+void Frame_Alarm_BirthTimeSetBtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupTimeBtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupTimeSetBtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupOnBtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupOffBtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupFreq1BtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupFreq2BtnAction(void* context, Button* button);
+void Frame_Alarm_WakeupFreq3BtnAction(void* context, Button* button);
+void Frame_Alarm_BackToChooseBtnAction(void* context, Button* button);
+void Frame_Alarm_BackToMainMenuBtnAction(void* context, Button* button);
+void Frame_Alarm_DoneBtnAction(void* context, Button* button);
