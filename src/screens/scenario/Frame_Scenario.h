@@ -4,7 +4,8 @@
 #include "FRAMESRECORD.h"
 #include "ScenarioList.h"
 
-class QLineEdit;
+#include <QLineEdit>
+
 class ScenarioNotify;
 
 // Between the main menu and the editors: a new scenario is named in the create view, an existing
