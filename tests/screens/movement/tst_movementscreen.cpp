@@ -9,9 +9,11 @@
 #include "TrackingRegistry.h"
 
 #include <QDir>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QTest>
 
+#include <memory>
 #include <vector>
 
 Q_DECLARE_METATYPE(NSRect)
@@ -67,7 +69,6 @@ ButtonField Field(const QString& name) {
 
 QWidget* ScreenNamed(Frame_Control* root, const QString& name) {
     if (name == "main menu") return root->frmMainMenu;
-    if (name == "scenario") return root->frmScenario;
     if (name == "sound") return root->frmSound;
     if (name == "laser") return root->frmLazer;
     return nullptr;
@@ -91,21 +92,51 @@ protected:
 class TestMovementScreen : public QObject {
     Q_OBJECT
 
-    // Comes into the movement screen from `origin` the way every screen that opens it does:
-    // origin hidden, this screen shown, then its hover registrations.
-    static Frame_MoveMent* EnterFrom(AppHarness& app, QWidget* origin) {
+    // Opens the movement screen from the main menu, clicking through the way in named.
+    static Frame_MoveMent* Open(AppHarness& app, const QString& way) {
         Frame_Control* root = app.root();
-        // The user is on `origin`...
-        for (QWidget* screen : app.shownScreens()) screen->setHidden(true);
-        origin->setHidden(false);
-        // ...and its control leads here.
-        origin->setHidden(true);
-        root->frmMovement->setHidden(false);
-        root->frmMovement->ButtonTrackingOn();
-        return root->frmMovement;
+        Frame_MoveMent* movement = root->frmMovement;
+        if (!app.waitForMainMenuReady()) return nullptr;
+        if (app.shownScreen() == root->frmMainMenu) app.click(root->frmMainMenu->BtnProgram);
+        if (app.shownScreen() != root->frmScenario) return nullptr;
+        if (way == "scenario Create") {
+            app.click(root->frmScenario->BtnCreate);
+            QTest::keyClicks(root->frmScenario->txtScenarioName, QStringLiteral("Walk"));
+            app.click(root->frmScenario->BtnNewCreate);
+            return movement;
+        }
+        app.click(root->frmScenario->BtnModify);
+        app.click(root->frmScenario->BtnGo);
+        if (way == "scenario Go" || app.shownScreen() != movement) return movement;
+        if (way.startsWith("sound")) {
+            app.click(movement->BtnSound);
+            Frame_Sound* sound = root->frmSound;
+            app.click(
+                sound->BtnButton[way == "sound Back" ? Frame_Sound::kBtnBack : Frame_Sound::kBtnMoveMent]);
+            return movement;
+        }
+        app.click(movement->BtnLazer);
+        Frame_Lazer* lazer = root->frmLazer;
+        if (way == "laser movement tab") app.click(lazer->BtnMoveMent);
+        if (way == "laser face tab") app.click(lazer->BtnFace);
+        if (way == "laser play") app.click(lazer->BtnPlay);
+        return movement;
     }
 
+    // One window, opened through the sound screen's Back, for the tests that leave the screen
+    // as they found it.
+    AppHarness& Shared() {
+        if (!m_shared) {
+            m_shared = std::make_unique<AppHarness>();
+            Open(*m_shared, "sound Back");
+        }
+        return *m_shared;
+    }
+    std::unique_ptr<AppHarness> m_shared;
+
 private slots:
+    void cleanupTestCase() { m_shared.reset(); }
+
     void widgetsInCreationOrder() {
         AppHarness app;
         Frame_MoveMent* screen = app.root()->frmMovement;
@@ -139,7 +170,7 @@ private slots:
         QFETCH(int, index);
         QFETCH(NSRect, frame);
         QFETCH(QString, text);
-        AppHarness app;
+        AppHarness& app = Shared();
         NSImageViewS* caption = app.root()->frmMovement->txtString[index];
         QCOMPARE(caption->frame(), frame);
         QVERIFY(caption->imgDefault.isNull());
@@ -204,7 +235,7 @@ private slots:
         QFETCH(QString, field);
         QFETCH(NSRect, frame);
         QFETCH(QStringList, pictures);
-        AppHarness app;
+        AppHarness& app = Shared();
         Frame_MoveMent* screen = app.root()->frmMovement;
         Button* button = screen->*Field(field);
         QVERIFY(button);
@@ -262,26 +293,26 @@ private slots:
 
     // Every way into the screen, and every way out.
     void navigation_data() {
-        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("way");
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("to");
-        for (const char* from : {"scenario", "sound", "laser"}) {
-            QTest::addRow("from %s, sound tab", from) << from << "BtnSound"
-                                                      << "sound";
-            QTest::addRow("from %s, laser tab", from) << from << "BtnLazer"
-                                                      << "laser";
-            QTest::addRow("from %s, Back", from) << from << "BtnBack"
-                                                 << "main menu";
+        for (const char* way : {"scenario Create", "scenario Go", "sound movement tab", "sound Back",
+                                "laser movement tab", "laser face tab", "laser play"}) {
+            QTest::addRow("%s, then sound tab", way) << way << "BtnSound"
+                                                     << "sound";
+            QTest::addRow("%s, then laser tab", way) << way << "BtnLazer"
+                                                     << "laser";
+            QTest::addRow("%s, then Back", way) << way << "BtnBack"
+                                                << "main menu";
         }
     }
     void navigation() {
-        QFETCH(QString, from);
+        QFETCH(QString, way);
         QFETCH(QString, control);
         QFETCH(QString, to);
         AppHarness app;
-        QVERIFY(app.waitForMainMenuReady());
         Frame_Control* root = app.root();
-        Frame_MoveMent* screen = EnterFrom(app, ScreenNamed(root, from));
+        Frame_MoveMent* screen = Open(app, way);
         QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
         const int menuRegistrations =
             TrackingRegistry::instance().registrationCount(root->frmMainMenu->BtnProgram);
@@ -307,8 +338,9 @@ private slots:
     }
     void pressChangesOnlyTheButtonsOwnPicture() {
         QFETCH(QString, field);
-        AppHarness app;
-        Frame_MoveMent* screen = EnterFrom(app, app.root()->frmScenario);
+        AppHarness& app = Shared();
+        Frame_MoveMent* screen = app.root()->frmMovement;
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
         Button* pressed = screen->*Field(field);
         // A point of the button that the path view does not cover.
         const QPoint at = app.at(pressed, QPoint(pressed->width() / 2, pressed->height() - 2));
@@ -346,8 +378,9 @@ private slots:
         QFETCH(QString, field);
         QFETCH(QPoint, local);
         QFETCH(bool, covered);
-        AppHarness app;
-        Frame_MoveMent* screen = EnterFrom(app, app.root()->frmSound);
+        AppHarness& app = Shared();
+        Frame_MoveMent* screen = app.root()->frmMovement;
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
         Button* button = screen->*Field(field);
         PressSpy spy;
         screen->PathInfo.frmPath->installEventFilter(&spy);
@@ -368,15 +401,17 @@ private slots:
         AppHarness app;
         Frame_Control* root = app.root();
         Frame_MoveMent* screen = root->frmMovement;
+        QVERIFY(app.waitForMainMenuReady());
         // Shown without its hover registrations, nothing reacts to pointing.
         root->frmMainMenu->setHidden(true);
         screen->setHidden(false);
         app.moveTo(screen->BtnStop);
         QCOMPARE(screen->BtnStop->look(), Button::Look::Up);
-        app.moveTo(QPoint(5, 760));
-
         screen->setHidden(true);
-        EnterFrom(app, root->frmLazer);
+        root->frmMainMenu->setHidden(false);
+
+        QCOMPARE(Open(app, "laser face tab"), screen);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
         app.moveTo(screen->BtnStop);
         QCOMPARE(screen->BtnStop->look(), Button::Look::Move);
         QCOMPARE(screen->BtnStop->shownPictureName(), QStringLiteral("ButtonArrowStop_focus"));
@@ -387,23 +422,29 @@ private slots:
 
     void eachShowingAddsOneRegistrationPerButton() {
         AppHarness app;
-        QVERIFY(app.waitForMainMenuReady());
         Frame_Control* root = app.root();
-        Frame_MoveMent* screen = root->frmMovement;
-        for (int shown = 1; shown <= 3; ++shown) {
-            EnterFrom(app, root->frmScenario);
+        Frame_MoveMent* screen = Open(app, "scenario Go");
+        auto expectRegistrations = [&](int count) {
+            QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
             for (const ButtonRow& row : Buttons())
-                QCOMPARE(TrackingRegistry::instance().registrationCount(screen->*row.member), shown);
-            app.click(screen->BtnBack);
-            QCOMPARE(app.shownScreen(), static_cast<QWidget*>(root->frmMainMenu));
-        }
+                QCOMPARE(TrackingRegistry::instance().registrationCount(screen->*row.member), count);
+        };
+        expectRegistrations(1);
+        app.click(screen->BtnSound);
+        app.click(root->frmSound->BtnButton[Frame_Sound::kBtnMoveMent]);
+        expectRegistrations(2);
+        app.click(screen->BtnLazer);
+        app.click(root->frmLazer->BtnPlay);
+        expectRegistrations(3);
     }
 
     // The path is drawn into the path view and clipped by it; it stays across showings.
     void aDozenCommandsDrawnIntoThePathView() {
         AppHarness app;
         Frame_Control* root = app.root();
-        Frame_MoveMent* screen = EnterFrom(app, root->frmScenario);
+        Frame_MoveMent* screen = Open(app, "scenario Create");
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
+        app.moveTo(QPoint(2, 2));
         QVERIFY(app.grab(QDir::temp().filePath("movement-screen.png")));
 
         const QList<int> commands{2, 0, 3, 4, 0, 3, 0, 1, 3, 0, 5, 6};
@@ -425,7 +466,8 @@ private slots:
         QVERIFY(NSViewS::VisibleRect(screen->PathInfo.Item[11].PathImg).isEmpty());
 
         app.click(screen->BtnSound);
-        EnterFrom(app, root->frmSound);
+        app.click(root->frmSound->BtnButton[Frame_Sound::kBtnBack]);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
         QCOMPARE(screen->PathInfo.iItemCnt, 12);
         QVERIFY(screen->PathInfo.Item[11].PathImg->isVisible());
         QVERIFY(app.grab(QDir::temp().filePath("movement-path.png")));
