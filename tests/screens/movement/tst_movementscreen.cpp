@@ -314,16 +314,24 @@ private slots:
         Frame_Control* root = app.root();
         Frame_MoveMent* screen = Open(app, way);
         QCOMPARE(app.shownScreen(), static_cast<QWidget*>(screen));
-        const int menuRegistrations =
-            TrackingRegistry::instance().registrationCount(root->frmMainMenu->BtnProgram);
+        // One button of each screen the movement screen leads to tells when its hover comes on.
+        const std::vector<std::pair<QString, Button*>> watched{
+            {"main menu", root->frmMainMenu->BtnProgram},
+            {"sound", root->frmSound->BtnButton[Frame_Sound::kBtnMoveMent]},
+            {"laser", root->frmLazer->BtnMoveMent},
+        };
+        std::vector<int> before;
+        for (const auto& w : watched)
+            before.push_back(TrackingRegistry::instance().registrationCount(w.second));
 
         app.click(screen->*Field(control));
 
         QCOMPARE(app.shownScreen(), ScreenNamed(root, to));
         QVERIFY(screen->isHidden());
-        // Only Back brings the main menu alive again, with one more hover registration.
-        QCOMPARE(TrackingRegistry::instance().registrationCount(root->frmMainMenu->BtnProgram),
-                 menuRegistrations + (to == "main menu" ? 1 : 0));
+        // The screen shown gets its hover registrations once more; the others none.
+        for (size_t i = 0; i < watched.size(); ++i)
+            QCOMPARE(TrackingRegistry::instance().registrationCount(watched[i].second),
+                     before[i] + (watched[i].first == to ? 1 : 0));
     }
 
     // The press shows the pressed picture, the release the resting one; nothing else moves.
