@@ -226,6 +226,21 @@ private slots:
         QCOMPARE(s.sound->scrollTickCount(), ticks);
     }
 
+    void pressingAnItemOnlyChangesItsPicture() {
+        SoundApp s;
+        QVERIFY(s.choose(13));
+        Button* item = s.sound->SoundContent.Item.BtnButton[0];
+        QVERIFY(item->ButtonAction == &Frame_Sound_SoundContentBtnAction);
+        QCOMPARE(item->frmControl[0], static_cast<void*>(s.sound));
+        s.app.press(s.app.at(item));
+        QCOMPARE(item->shownPictureName(), QStringLiteral("but_over_Btn01"));
+        s.app.release(s.app.at(item));
+        QCOMPARE(s.items(), 1);
+        QCOMPARE(s.sound->iCurSoundSet, 13);
+        QVERIFY(!s.scrolling());
+        QCOMPARE(item->frame(), MakeNSRect(12, 9, 111, 46));
+    }
+
     void markFollowsTheChoice() {
         SoundApp s;
         QVERIFY(s.choose(10));
@@ -497,6 +512,28 @@ private slots:
         // Hidden buttons get nothing that could fire.
         QCOMPARE(TrackingRegistry::instance().registrationCount(sound->BtnButton[9]), 0);
         QCOMPARE(TrackingRegistry::instance().registrationCount(sound->BtnButton[27]), 1);
+    }
+
+    // What the user sees: items drawn in the timeline. Set ROBOT_GRAB_DIR to keep the pictures.
+    void timelineDrawsItsItems() {
+        SoundApp s;
+        const QRect timeline(552, 320, 371, 224);
+        const QImage empty = s.app.window()->grab().toImage();
+        QCOMPARE(empty.size(), QSize(1024, 768));
+        for (int i = 0; i < 14; ++i) QVERIFY(s.choose(10 + i % 12));
+        const QImage pageOne = s.app.window()->grab().toImage();
+        QVERIFY(pageOne.copy(timeline) != empty.copy(timeline));
+        // Above the arrows and sound buttons, nothing has changed.
+        QCOMPARE(pageOne.copy(0, 0, 1024, 270), empty.copy(0, 0, 1024, 270));
+        for (int i = 0; i < 10; ++i) QVERIFY(s.choose(10 + i % 12));
+        QCOMPARE(s.ticksOf(8), qint64(11));
+        const QImage pageZero = s.app.window()->grab().toImage();
+        QVERIFY(pageZero.copy(timeline) != pageOne.copy(timeline));
+        const QString dir = qEnvironmentVariable("ROBOT_GRAB_DIR");
+        if (!dir.isEmpty()) {
+            QVERIFY(pageOne.save(dir + QStringLiteral("/sound_page1.png")));
+            QVERIFY(pageZero.save(dir + QStringLiteral("/sound_page0.png")));
+        }
     }
 
     void timelineClipsItsItems() {
