@@ -473,6 +473,31 @@ private slots:
         QCOMPARE(s.items(), 1);
     }
 
+    // The way a user arrives: the movement screen's sound tab, which also makes the hover
+    // registrations; then over to the laser screen and back by its sound tab.
+    void roundTripThroughTheOtherScreens() {
+        AppHarness app;
+        Frame_Control* root = app.root();
+        Frame_Sound* sound = root->frmSound;
+        root->frmMainMenu->setHidden(true);
+        root->frmMovement->setHidden(false);
+        app.click(root->frmMovement->BtnSound);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
+        QVERIFY(TrackingRegistry::instance().registrationCount(sound->BtnButton[12]) >= 1);
+        app.click(sound->BtnButton[12]);
+        QCOMPARE(sound->SoundContent.iItemNum, 1);
+        app.click(sound->BtnButton[Frame_Sound::kBtnLazer]);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(root->frmLazer));
+        app.click(root->frmLazer->BtnSound);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
+        app.click(sound->BtnButton[Frame_Sound::kBtnBack]);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(root->frmMovement));
+        app.click(root->frmMovement->BtnSound);
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
+        QCOMPARE(sound->SoundContent.iItemNum, 1); // nothing was reset on the way
+        QCOMPARE(sound->iCurSoundSet, 12);
+    }
+
     void inertButtonsOnlyChangeTheirPictures_data() {
         QTest::addColumn<int>("index");
         for (int index : {0, 2, 4, 5, 22, 23, 24, 25, 26})
