@@ -5,6 +5,8 @@
 #include "NSColor.h"
 #include "NSLog.h"
 
+#include "EntryFieldStyle.h"
+
 #include <QDateEdit>
 #include <QTimeEdit>
 #include <QTimer>
@@ -230,6 +232,7 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
     Layout::Build(editor, {{.image = &ground, .frame = MakeNSRect(0, 0, 227, 72), .up = "textbox"}});
 
     picker->setGeometry(MakeNSRect(18, 0, 195, 50).toRect());
+    ApplyEntryFieldStyle(picker);
     SetDatePickerElements(picker, elements);
     picker->setDateTime(m_createdAt);
     formatter = std::make_unique<DateFormatter>(QString::fromLatin1(format), false);
