@@ -1,11 +1,10 @@
 #include "Frame_Alarm.h"
 
 #include "DatePickerElements.h"
+#include "EntryFieldStyle.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "NSLog.h"
-
-#include "EntryFieldStyle.h"
 
 #include <QDateEdit>
 #include <QTimeEdit>
