@@ -1,0 +1,78 @@
+#include "BenchClock.h"
+
+#include <QEvent>
+#include <QWidget>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+
+namespace Bench {
+
+namespace {
+std::int64_t Now(clockid_t clock) {
+    timespec ts{};
+    clock_gettime(clock, &ts);
+    return static_cast<std::int64_t>(ts.tv_sec) * 1000000000 + ts.tv_nsec;
+}
+} // namespace
+
+std::int64_t CpuNowNs() {
+    return Now(CLOCK_PROCESS_CPUTIME_ID);
+}
+
+std::int64_t WallNowNs() {
+    return Now(CLOCK_MONOTONIC);
+}
+
+double Median(std::vector<double> values) {
+    if (values.empty()) return 0.0;
+    std::sort(values.begin(), values.end());
+    const size_t mid = values.size() / 2;
+    return values.size() % 2 ? values[mid] : (values[mid - 1] + values[mid]) / 2.0;
+}
+
+double MedianCpuUs(const std::vector<Sample>& samples) {
+    std::vector<double> us;
+    for (const Sample& s : samples) us.push_back(s.cpuNs / 1000.0);
+    return Median(us);
+}
+
+double MedianWallUs(const std::vector<Sample>& samples) {
+    std::vector<double> us;
+    for (const Sample& s : samples) us.push_back(s.wallNs / 1000.0);
+    return Median(us);
+}
+
+double MaxCpuUs(const std::vector<Sample>& samples) {
+    double most = 0.0;
+    for (const Sample& s : samples) most = std::max(most, s.cpuNs / 1000.0);
+    return most;
+}
+
+PaintCounter::PaintCounter(QWidget* watched) {
+    if (watched) watched->installEventFilter(this);
+}
+
+bool PaintCounter::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::Paint) ++m_count;
+    return false;
+}
+
+long PeakResidentKiB() {
+    std::FILE* status = std::fopen("/proc/self/status", "r");
+    if (!status) return 0;
+    char line[256];
+    long kib = 0;
+    while (std::fgets(line, sizeof line, status)) {
+        if (std::strncmp(line, "VmHWM:", 6) == 0) {
+            std::sscanf(line + 6, "%ld", &kib);
+            break;
+        }
+    }
+    std::fclose(status);
+    return kib;
+}
+
+} // namespace Bench
