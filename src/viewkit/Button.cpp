@@ -1,5 +1,7 @@
 #include "Button.h"
 
+#include "ButtonAccessible.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -7,7 +9,10 @@ void BtnAction(void*, Button*) {}
 void BtnEntered(void*, Button*) {}
 void BtnExited(void*, Button*) {}
 
-Button::Button(const NSRect& frame) : NSImageViewS(frame) {}
+Button::Button(const NSRect& frame) : NSImageViewS(frame) {
+    // Screen readers see buttons (and captions) through our own interfaces.
+    ButtonAccessible::Install();
+}
 
 void Button::InitImage(const QString& up, const QString& move, const QString& down, const QString& ImageType,
                        NSViewS* ParentView) {

@@ -248,18 +248,21 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
 
 void Frame_Alarm::InitBirthDateEditView() {
     txtBirthDate = new QDateEdit;
+    txtBirthDate->setAccessibleName(QStringLiteral("Birthday date"));
     InitEditView(frmBirthDateEditView, txtFieldGround, txtBirthDate, DatePickerElements::YearMonthDay,
                  forBirthDateFormatter, kAlarmDateFormat, formattedBirthDateString, BtnBirthDateSet);
 }
 
 void Frame_Alarm::InitBirthTimeEditView() {
     txtBirthTime = new QTimeEdit;
+    txtBirthTime->setAccessibleName(QStringLiteral("Birthday time"));
     InitEditView(frmBirthTimeEditView, txtBirthTimeFieldGround, txtBirthTime, DatePickerElements::HourMinute,
                  forBirthTimeFormatter, kAlarmTimeFormat, formattedBirthTimeString, BtnBirthTimeSet);
 }
 
 void Frame_Alarm::InitWakeupTimeEditView() {
     txtWakeupTime = new QTimeEdit;
+    txtWakeupTime->setAccessibleName(QStringLiteral("Wake up time"));
     InitEditView(frmWakeupTimeEditView, txtWakeupTimeFieldGround, txtWakeupTime,
                  DatePickerElements::HourMinute, forWakeupTimeFormatter, kAlarmTimeFormat,
                  formattedWakeupTimeString, BtnWakeupTimeSet);

@@ -83,6 +83,7 @@ void Frame_Scenario::InitCreateScenarioView() {
                   {{.image = &txtFieldGround, .frame = MakeNSRect(0, 0, 227, 72), .up = "textbox"}});
 
     txtScenarioName = new QLineEdit;
+    txtScenarioName->setAccessibleName(QStringLiteral("Scenario name"));
     txtScenarioName->setGeometry(MakeNSRect(17, 35, 193, 20).toRect());
     txtScenarioName->setFrame(false);
     scenarioNotify = new ScenarioNotify(this);

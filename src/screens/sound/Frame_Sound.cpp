@@ -276,6 +276,11 @@ void Frame_Sound::ButtonInit() {
                              .down = "but_common_over_BtnSilver",
                              .caption = back},
                         });
+    // The same small arrows turn the sound set pages and the timeline's pages.
+    b[kBtnPagePre]->setAccessibleName(QStringLiteral("Previous sound page"));
+    b[kBtnPageNext]->setAccessibleName(QStringLiteral("Next sound page"));
+    b[kBtnContentUp]->setAccessibleName(QStringLiteral("Timeline page up"));
+    b[kBtnContentDown]->setAccessibleName(QStringLiteral("Timeline page down"));
 }
 
 void Frame_Sound::InitInterWorking() {

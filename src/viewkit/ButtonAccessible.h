@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+class Button;
+
+// What assistive technologies see of a Button: a push button named by what it says or shows,
+// whose press action does exactly what a click does, so the whole application can be worked
+// without a mouse.
+class ButtonAccessible : public QAccessibleWidget {
+public:
+    explicit ButtonAccessible(Button* button);
+
+    QAccessible::Role role() const override;
+    QAccessible::State state() const override;
+    QString text(QAccessible::Text t) const override;
+    QStringList actionNames() const override;
+    void doAction(const QString& actionName) override;
+    QStringList keyBindingsForAction(const QString& actionName) const override;
+
+    // The name spoken for a button: the name a screen gave it, else its caption on one line,
+    // else the default name of its up picture, else "Button".
+    static QString NameOf(const Button* button);
+    // The default name of the buttons showing this up picture; empty when it has none.
+    static QString DefaultName(const QString& upPicture);
+    // A caption as read aloud: its lines joined by single spaces.
+    static QString OneLine(const QString& caption);
+
+    // Makes Qt use these interfaces (and the caption views' ones); called by every new Button,
+    // does its work once.
+    static void Install();
+
+private:
+    Button* button() const;
+};
