@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QProcess>
+#include <QRect>
+#include <QString>
+
+class XDisplay;
+
+// The real robot-companion binary running on an X display, and its window, worked with real X
+// input (xdotool) at window coordinates and looked at through screenshots of the display.
+class AppWindow {
+public:
+    explicit AppWindow(const XDisplay& display);
+    ~AppWindow();
+    AppWindow(const AppWindow&) = delete;
+    AppWindow& operator=(const AppWindow&) = delete;
+
+    // Starts the binary and waits for its window to be mapped; on failure says why.
+    bool start(const QString& binary, QString* why);
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+    QRect windowRect() const { return m_window; }
+
+    // Input at window coordinates.
+    bool moveTo(QPoint pos);
+    bool press();
+    bool release();
+    bool click(QPoint pos);
+    bool type(const QString& text);
+    bool key(const QString& keyName);
+
+    // The window's part of the screen; null when the screenshot failed.
+    QImage grab() const;
+
+    // Everything the app wrote to stderr so far.
+    QString errorOutput();
+
+    static constexpr int kWidth = 1024;
+    static constexpr int kHeight = 768;
+
+private:
+    bool xdotool(const QStringList& args) const;
+
+    const XDisplay& m_display;
+    QProcess m_process;
+    QString m_windowId;
+    QRect m_window;
+    QPoint m_pointer{-1, -1};
+    QByteArray m_stderr;
+};

@@ -1,0 +1,96 @@
+#include "XDisplay.h"
+
+#include <QDeadlineTimer>
+#include <QStandardPaths>
+
+XDisplay::~XDisplay() {
+    if (m_server.state() != QProcess::NotRunning) {
+        m_server.terminate();
+        if (!m_server.waitForFinished(5000)) m_server.kill();
+        m_server.waitForFinished(5000);
+    }
+}
+
+QString XDisplay::MissingTools() {
+    QStringList missing;
+    for (const char* tool : {"Xvfb", "xdotool", "import"})
+        if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
+            missing << QString::fromLatin1(tool);
+    if (missing.isEmpty()) return {};
+    return QStringLiteral("not found on PATH: %1 (Debian packages xvfb, xdotool, imagemagick)")
+        .arg(missing.join(QStringLiteral(", ")));
+}
+
+bool XDisplay::start(QString* why) {
+    // -displayfd: the server takes the first free display and writes its number to our pipe.
+    m_server.setProcessChannelMode(QProcess::SeparateChannels);
+    m_server.start(QStringLiteral("Xvfb"),
+                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                    QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(kScreenWidth).arg(kScreenHeight),
+                    QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                    // Without it the server resets whenever its last
+                    // client leaves, and turns away whoever comes next.
+                    QStringLiteral("-noreset")});
+    if (!m_server.waitForStarted(10000)) {
+        if (why) *why = QStringLiteral("Xvfb does not start: %1").arg(m_server.errorString());
+        return false;
+    }
+    QByteArray number;
+    const QDeadlineTimer deadline(30000);
+    while (!number.contains('\n') && !deadline.hasExpired() && m_server.state() == QProcess::Running) {
+        m_server.waitForReadyRead(200);
+        number += m_server.readAllStandardOutput();
+    }
+    bool ok = false;
+    const int n = number.trimmed().toInt(&ok);
+    if (!ok) {
+        if (why)
+            *why = QStringLiteral("Xvfb gave no display number: %1")
+                       .arg(QString::fromLocal8Bit(m_server.readAllStandardError()).trimmed());
+        return false;
+    }
+    m_display = QStringLiteral(":%1").arg(n);
+    // The server answers as soon as it has said its number; make sure the tools can talk to it.
+    if (!run(QStringLiteral("xdotool"), {QStringLiteral("getmouselocation")})) {
+        if (why) *why = QStringLiteral("xdotool cannot use the display %1").arg(m_display);
+        return false;
+    }
+    return true;
+}
+
+QProcessEnvironment XDisplay::environment() const {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("DISPLAY"), m_display);
+    return env;
+}
+
+bool XDisplay::run(const QString& program, const QStringList& args, QByteArray* output, int timeoutMs) const {
+    QProcess tool;
+    tool.setProcessEnvironment(environment());
+    tool.start(program, args);
+    if (!tool.waitForStarted(10000)) return false;
+    QByteArray out;
+    const QDeadlineTimer deadline(timeoutMs);
+    while (tool.state() != QProcess::NotRunning && !deadline.hasExpired()) {
+        tool.waitForFinished(100);
+        out += tool.readAllStandardOutput();
+    }
+    if (tool.state() != QProcess::NotRunning) {
+        tool.kill();
+        tool.waitForFinished(5000);
+        return false;
+    }
+    out += tool.readAllStandardOutput();
+    if (output) *output = out;
+    return tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
+}
+
+QImage XDisplay::grabScreen() const {
+    QByteArray png;
+    if (!run(QStringLiteral("import"),
+             {QStringLiteral("-silent"), QStringLiteral("-window"), QStringLiteral("root"),
+              QStringLiteral("png:-")},
+             &png))
+        return {};
+    return QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32);
+}
