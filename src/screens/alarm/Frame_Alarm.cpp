@@ -233,6 +233,9 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
     picker->setGeometry(MakeNSRect(18, 0, 195, 50).toRect());
     ApplyEntryFieldStyle(picker);
     SetDatePickerElements(picker, elements);
+    // Qt's date and time edits keep UTC by default; the formatters read local time, so a picker
+    // left in UTC would show one value and write another wherever the zone is not UTC.
+    picker->setTimeSpec(Qt::LocalTime);
     picker->setDateTime(m_createdAt);
     formatter = std::make_unique<DateFormatter>(QString::fromLatin1(format), false);
     text = formatter->stringFromDate(picker->dateTime());
