@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+#include <QStringList>
+
+class AppHarness;
+
+// A walk through every screen and page of the app in its real window, clicking where a user
+// clicks, with one screenshot per stop.
+class ScreenTour {
+public:
+    ScreenTour(AppHarness& app, const QDir& folder);
+
+    // Walks the whole tour; false (with the reason in error()) when a stop could not be reached.
+    bool run();
+    const QStringList& written() const { return m_written; }
+    const QString& error() const { return m_error; }
+
+private:
+    bool mainMenu();
+    bool scenario();
+    bool editors();
+    bool alarm();
+
+    // Parks the pointer on bare background (so no button is lit) and writes NN-name.png.
+    bool stop(const QString& name);
+    bool save(const QString& file);
+    bool fail(const QString& why);
+
+    AppHarness& m_app;
+    QDir m_folder;
+    QStringList m_written;
+    QString m_error;
+};
