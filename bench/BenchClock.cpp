@@ -60,14 +60,15 @@ bool PaintCounter::eventFilter(QObject*, QEvent* event) {
     return false;
 }
 
-long PeakResidentKiB() {
+long StatusKiB(const char* field) {
     std::FILE* status = std::fopen("/proc/self/status", "r");
     if (!status) return 0;
     char line[256];
     long kib = 0;
+    const size_t length = std::strlen(field);
     while (std::fgets(line, sizeof line, status)) {
-        if (std::strncmp(line, "VmHWM:", 6) == 0) {
-            std::sscanf(line + 6, "%ld", &kib);
+        if (std::strncmp(line, field, length) == 0 && line[length] == ':') {
+            std::sscanf(line + length + 1, "%ld", &kib);
             break;
         }
     }

@@ -39,7 +39,8 @@ private:
     int m_count = 0;
 };
 
-// Peak resident memory of this process so far, in KiB (0 where the system does not say).
-long PeakResidentKiB();
+// A memory figure of this process from /proc/self/status, in KiB ("VmHWM": the peak resident
+// set so far; "RssAnon", "RssFile": what is resident now); 0 where the system does not say.
+long StatusKiB(const char* field);
 
 } // namespace Bench

@@ -67,9 +67,11 @@ int main(int argc, char** argv) {
     menuReady = ready;
 #endif
 
-    std::printf("first_frame_cpu_us=%.1f first_frame_wall_us=%.1f paints=%d ready=%d peak_rss_kib=%ld\n",
+    std::printf("first_frame_cpu_us=%.1f first_frame_wall_us=%.1f paints=%d ready=%d peak_rss_kib=%ld "
+                "rss_anon_kib=%ld rss_file_kib=%ld\n",
                 (firstFrame.cpuNs - start.cpuNs) / 1000.0, (firstFrame.wallNs - start.wallNs) / 1000.0,
-                paints, menuReady ? 1 : 0, Bench::PeakResidentKiB());
+                paints, menuReady ? 1 : 0, Bench::StatusKiB("VmHWM"), Bench::StatusKiB("RssAnon"),
+                Bench::StatusKiB("RssFile"));
     std::fflush(stdout);
     return ready && !menuReady ? 1 : 0;
 }
