@@ -28,9 +28,11 @@ public:
     // the screen has one.
     void draw(QPainter& painter, const QRectF& target, qreal devicePixelRatio) const;
 
-private:
+    // The decoded pixels drawn at that device pixel ratio (the sharper file above 1), read on
+    // first use; every picture of the same file shares one copy. Null for a null picture.
     const QPixmap& pixmap(qreal devicePixelRatio) const;
 
+private:
     QString m_name;
     QString m_type;
     QString m_path;
