@@ -8,6 +8,7 @@ PACKAGES=(
     librsvg2-bin imagemagick
     fonts-urw-base35
     xvfb xauth xdotool x11-utils
+    desktop-file-utils appstream
 )
 
 missing=()
