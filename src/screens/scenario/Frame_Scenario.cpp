@@ -8,6 +8,8 @@
 
 #include <QLineEdit>
 
+#include <limits>
+
 namespace {
 
 const char* const kHighlightBar = "long bar";
@@ -86,6 +88,8 @@ void Frame_Scenario::InitCreateScenarioView() {
     txtScenarioName->setAccessibleName(QStringLiteral("Scenario name"));
     txtScenarioName->setGeometry(MakeNSRect(17, 35, 193, 20).toRect());
     txtScenarioName->setFrame(false);
+    // A name has no maximum length; Qt's line edit would otherwise cut it at 32767 characters.
+    txtScenarioName->setMaxLength(std::numeric_limits<int>::max());
     scenarioNotify = new ScenarioNotify(this);
     scenarioNotify->setTempScenario(this);
     scenarioNotify->setDelegateOf(txtScenarioName);
