@@ -4,6 +4,7 @@
 #include "ui_MainWindow.h"
 
 #include <QApplication>
+#include <QIcon>
 
 std::unique_ptr<QWidget> LoadMainWindow() {
     auto window = std::make_unique<QWidget>();
@@ -21,6 +22,10 @@ int NSApplicationMain(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("robot-companion"));
     QApplication::setApplicationDisplayName(QStringLiteral("Robot Companion"));
+    // The desktop entry names the installed icon; run from the build tree, the mascot stands in.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.robotcompanion.RobotCompanion"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.robotcompanion.RobotCompanion"),
+                                                 QIcon(QStringLiteral(":/pictures/logo_main.png"))));
     std::unique_ptr<QWidget> window = LoadMainWindow();
     window->show();
     return QApplication::exec();
