@@ -38,14 +38,35 @@ void NSImageViewS::paintEvent(QPaintEvent*) {
     drawCaption(painter);
 }
 
+const NSImageViewS::LaidOutCaption& NSImageViewS::laidOutCaption() const {
+    // Keyed on the text and font themselves, not on InitText: Text is a public field.
+    if (m_laidOut.text.isNull() || m_laidOut.text != Text.textStorage || m_laidOut.font != Text.font) {
+        const QFontMetricsF metrics(Text.font);
+        m_laidOut.text = Text.textStorage;
+        m_laidOut.font = Text.font;
+        m_laidOut.ascent = metrics.ascent();
+        m_laidOut.lineSpacing = metrics.lineSpacing();
+        m_laidOut.lines.clear();
+        for (const QString& line : Text.textStorage.split(QLatin1Char('\n'))) {
+            QStaticText laidOut(line);
+            laidOut.setTextFormat(Qt::PlainText);
+            laidOut.prepare(QTransform(), Text.font);
+            m_laidOut.lines.append(laidOut);
+        }
+    }
+    return m_laidOut;
+}
+
 void NSImageViewS::drawCaption(QPainter& painter) const {
     if (!hasCaption() || Text.textStorage.isEmpty()) return;
+    const LaidOutCaption& caption = laidOutCaption();
     painter.setFont(Text.font);
     painter.setPen(Text.textColor);
-    const QFontMetricsF metrics(Text.font);
-    QPointF origin(Text.rectFrame.x + kLinePadding, Text.rectFrame.y + metrics.ascent());
-    for (const QString& line : Text.textStorage.split(QLatin1Char('\n'))) {
-        painter.drawText(origin, line);
-        origin.ry() += metrics.lineSpacing();
+    // Each line's baseline lies one ascent below the caption origin, the next a line spacing
+    // further down; a laid-out line is placed by its top, one ascent above its baseline.
+    QPointF baseline(Text.rectFrame.x + kLinePadding, Text.rectFrame.y + caption.ascent);
+    for (const QStaticText& line : caption.lines) {
+        painter.drawStaticText(QPointF(baseline.x(), baseline.y() - caption.ascent), line);
+        baseline.ry() += caption.lineSpacing;
     }
 }

@@ -4,6 +4,9 @@
 #include "Picture.h"
 #include "TEXTSTRUCT.h"
 
+#include <QList>
+#include <QStaticText>
+
 // A view that shows one picture from the resources, centred and drawn at the size it was given,
 // and one caption over it. A view without a picture name is a caption-only view.
 class NSImageViewS : public NSViewS {
@@ -33,4 +36,19 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void drawCaption(QPainter& painter) const;
+
+private:
+    // The caption's lines laid out once, for as long as its text and font stay the same: a
+    // scrolling timeline repaints dozens of captions every 10 ms, and laying out a string costs
+    // more than drawing it. Drawn, the lines are the same pixels as drawText's.
+    struct LaidOutCaption {
+        QString text;
+        QFont font;
+        QList<QStaticText> lines;
+        qreal ascent = 0;
+        qreal lineSpacing = 0;
+    };
+    const LaidOutCaption& laidOutCaption() const;
+
+    mutable LaidOutCaption m_laidOut;
 };
