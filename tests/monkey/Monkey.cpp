@@ -108,6 +108,15 @@ QString PointText(QPoint p) {
 
 Monkey::Monkey(AppHarness& app, quint64 seed) : m_app(app), m_rng(seed) {}
 
+void Monkey::setCheck(std::function<bool()> check) {
+    m_check = std::move(check);
+}
+
+void Monkey::afterEvents(int events) {
+    m_events += events;
+    if (m_check && !m_failed && !m_check()) m_failed = true;
+}
+
 const char* Monkey::KindName(Kind kind) {
     static const char* const names[KindCount] = {
         "click on a control", "move to a control", "move anywhere", "click anywhere", "double click", "drag",
@@ -208,27 +217,29 @@ QPoint Monkey::aim() {
 
 QString Monkey::move(QPoint p) {
     m_app.moveTo(p);
-    ++m_events;
+    afterEvents(1);
     return QStringLiteral("move %1").arg(PointText(p));
 }
 
 QString Monkey::press(QPoint p) {
     m_app.press(p);
     m_buttonHeld = true;
-    ++m_events;
+    afterEvents(1);
     return QStringLiteral("press %1").arg(PointText(p));
 }
 
 QString Monkey::release(QPoint p) {
     m_app.release(p);
     m_buttonHeld = false;
-    ++m_events;
+    afterEvents(1);
     return QStringLiteral("release %1").arg(PointText(p));
 }
 
 QString Monkey::click(QPoint p) {
     QString text = move(p);
+    if (m_failed) return text;
     text += QStringLiteral(", ") + press(p);
+    if (m_failed) return text;
     // Now and then the hand rests between press and release, and timers run meanwhile.
     if (chance(10)) text += QStringLiteral(", ") + wait(below(120));
     text += QStringLiteral(", ") + release(p);
@@ -240,10 +251,11 @@ QString Monkey::drag() {
     QString text = QStringLiteral("drag: ") + move(from) + QStringLiteral(", ") + press(from);
     const int moves = 1 + below(6);
     QPoint last = from;
-    for (int i = 0; i < moves; ++i) {
+    for (int i = 0; i < moves && !m_failed; ++i) {
         last = chance(15) ? slightlyOutside() : (chance(50) ? aim() : anywhere());
         text += QStringLiteral(", ") + move(last);
     }
+    if (m_failed) return text;
     if (last.x() < 0 || last.y() < 0) last = anywhere();
     text += QStringLiteral(", ") + release(last);
     return text;
@@ -252,7 +264,7 @@ QString Monkey::drag() {
 QString Monkey::keystroke() {
     const KeyChoice& k = kKeys[below(static_cast<int>(std::size(kKeys)))];
     QTest::keyClick(m_app.handle(), k.key, k.modifiers);
-    m_events += 2;
+    afterEvents(2);
     return QStringLiteral("key %1 (modifiers %2) to %3")
         .arg(int(k.key), 0, 16)
         .arg(int(k.modifiers), 0, 16)
@@ -260,32 +272,50 @@ QString Monkey::keystroke() {
 }
 
 QString Monkey::typeText() {
+    const QString first = replaceLongText();
+    if (m_failed) return first;
     const int index = below(kSampleTexts);
     const int repeat = chance(5) ? 1 + below(400) : 1;
     const QString text = SampleText(index, repeat);
     // One key event carrying the whole text, as an input method hands over a composed string.
     QTest::sendKeyEvent(QTest::Click, m_app.handle(), Qt::Key_unknown, text, Qt::NoModifier);
-    m_events += 2;
-    return QStringLiteral("type sample %1 x%2 to %3")
-        .arg(index)
-        .arg(repeat)
-        .arg(Describe(QApplication::focusWidget()));
+    afterEvents(2);
+    return first + QStringLiteral("type sample %1 x%2 to %3")
+                       .arg(index)
+                       .arg(repeat)
+                       .arg(Describe(QApplication::focusWidget()));
+}
+
+// Past this length a field's text is replaced rather than added to: Qt's line edit lays its whole
+// text out again on every key, and a run of 100 000 inputs would otherwise build names of
+// millions of characters and spend its time laying them out.
+constexpr qsizetype kLongText = 20000;
+
+QString Monkey::replaceLongText() {
+    const auto* field = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+    if (!field || field->text().size() <= kLongText) return {};
+    QTest::keyClick(m_app.handle(), Qt::Key_A, Qt::ControlModifier);
+    afterEvents(2);
+    return QStringLiteral("select all, ");
 }
 
 QString Monkey::paste() {
+    const QString first = replaceLongText();
+    if (m_failed) return first;
     const int index = below(kSampleTexts);
     const int repeat = chance(10) ? 1 + below(3000) : 1 + below(3);
     QGuiApplication::clipboard()->setText(SampleText(index, repeat));
     QTest::keyClick(m_app.handle(), Qt::Key_V, Qt::ControlModifier);
-    m_events += 2;
-    return QStringLiteral("paste sample %1 x%2 to %3")
-        .arg(index)
-        .arg(repeat)
-        .arg(Describe(QApplication::focusWidget()));
+    afterEvents(2);
+    return first + QStringLiteral("paste sample %1 x%2 to %3")
+                       .arg(index)
+                       .arg(repeat)
+                       .arg(Describe(QApplication::focusWidget()));
 }
 
 QString Monkey::wait(int ms) {
     QTest::qWait(ms);
+    afterEvents(0); // the timers ran meanwhile
     return QStringLiteral("wait %1 ms").arg(ms);
 }
 
@@ -314,9 +344,11 @@ QString Monkey::step() {
     case DoubleClick: {
         const QPoint p = aim();
         m_app.moveTo(p);
+        afterEvents(1);
+        if (m_failed) return QStringLiteral("move %1").arg(PointText(p));
         QTest::mouseDClick(m_app.handle(), Qt::LeftButton, Qt::NoModifier, p);
         m_buttonHeld = false;
-        m_events += 5;
+        afterEvents(4);
         return QStringLiteral("double click %1").arg(PointText(p));
     }
     case Drag:
@@ -337,7 +369,7 @@ QString Monkey::step() {
     case LeaveWindow:
         if (m_buttonHeld) return release(anywhere());
         m_app.leaveWindow();
-        ++m_events;
+        afterEvents(1);
         return QStringLiteral("leave window");
     case KindCount:
         break;

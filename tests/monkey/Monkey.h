@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <random>
 
 class AppHarness;
@@ -36,6 +37,11 @@ public:
 
     Monkey(AppHarness& app, quint64 seed);
 
+    // Called after every event sent (and after every wait, when timers ran); answering false
+    // says a rule broke, and the input under way sends nothing more.
+    void setCheck(std::function<bool()> check);
+    bool failed() const { return m_failed; }
+
     // Sends one input (a drag is one input made of several events) and lets the application
     // take it. Answers what was sent, for the trace of a failing run.
     QString step();
@@ -67,13 +73,17 @@ private:
     QString click(QPoint p);
     QString drag();
     QString keystroke();
+    QString replaceLongText();
     QString typeText();
     QString paste();
     QString wait(int ms);
+    void afterEvents(int events);
 
     AppHarness& m_app;
     std::mt19937_64 m_rng;
     bool m_buttonHeld = false;
     std::array<qint64, KindCount> m_sent{};
     qint64 m_events = 0;
+    std::function<bool()> m_check;
+    bool m_failed = false;
 };

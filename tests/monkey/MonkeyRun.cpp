@@ -102,6 +102,12 @@ MonkeyResult RunMonkey(quint64 seed, qint64 inputs, const MonkeyProgress& progre
     Frame_Control* root = app.root();
     const AppInvariants invariants(root);
     Monkey monkey(app, seed);
+    QStringList brokenNow;
+    // Every event is followed by the whole check, not only every input: a drag is many events.
+    monkey.setCheck([&] {
+        brokenNow = invariants.check();
+        return brokenNow.isEmpty();
+    });
     std::deque<QString> trace;
 
     auto fail = [&](qint64 at, const QStringList& broken) {
@@ -128,9 +134,8 @@ MonkeyResult RunMonkey(quint64 seed, qint64 inputs, const MonkeyProgress& progre
         if (trace.size() > kTraceLength) trace.pop_front();
         result.done = i + 1;
 
-        const QStringList broken = invariants.check();
-        if (!broken.isEmpty()) {
-            fail(i, broken);
+        if (monkey.failed()) {
+            fail(i, brokenNow);
             break;
         }
 

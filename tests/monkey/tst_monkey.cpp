@@ -1,6 +1,11 @@
+#include "Frame_Control.h"
+#include "Frame_Face.h"
 #include "MonkeyRun.h"
+#include "NSApplicationMain.h"
 
+#include <QApplication>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -30,6 +35,37 @@ private slots:
         QCOMPARE(result.done, result.planned);
         // A run that never leaves the main menu proves nothing about the other screens.
         QVERIFY2(result.inputsOn.size() >= 2, "the monkey stayed on one screen");
+    }
+
+    // A rule broken in the middle of a run stops it at once and says how to replay it.
+    void aBrokenRuleStopsTheRunAndNamesTheSeed() {
+        QTimer::singleShot(500, [] {
+            for (QWidget* w : QApplication::topLevelWidgets())
+                if (Frame_Control* root = RootView(w)) root->frmFace->setHidden(false);
+        });
+        const MonkeyResult result = RunMonkey(11, 100000);
+        QVERIFY(!result.ok());
+        QVERIFY(result.done < result.planned);
+        QVERIFY(result.failedAt >= 0);
+        QVERIFY(result.broken.join(QLatin1Char(' ')).contains(QLatin1String("face screen")));
+        QVERIFY(!result.trace.isEmpty());
+        QVERIFY(result.summary().contains(
+            QStringLiteral("ROBOT_MONKEY_SEED=11 ROBOT_MONKEY_INPUTS=%1").arg(result.failedAt + 1)));
+    }
+
+    void replayComesFromTheEnvironment() {
+        const QList<quint64> defaults = {1, 2};
+        qputenv("ROBOT_MONKEY_SEED", "5, 7,x");
+        qputenv("ROBOT_MONKEY_INPUTS", "250");
+        QCOMPARE(MonkeySeedsFromEnvironment(defaults), (QList<quint64>{5, 7}));
+        QCOMPARE(MonkeyInputsFromEnvironment(1500), qint64(250));
+        qputenv("ROBOT_MONKEY_SEED", "none");
+        qputenv("ROBOT_MONKEY_INPUTS", "-3");
+        QCOMPARE(MonkeySeedsFromEnvironment(defaults), defaults);
+        QCOMPARE(MonkeyInputsFromEnvironment(1500), qint64(1500));
+        qunsetenv("ROBOT_MONKEY_SEED");
+        qunsetenv("ROBOT_MONKEY_INPUTS");
+        QCOMPARE(MonkeySeedsFromEnvironment(defaults), defaults);
     }
 };
 
