@@ -91,7 +91,7 @@ int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
 
     const char* exe[2] = {ROBOT_BENCH_EMPTY_EXE, ROBOT_BENCH_APP_EXE};
-    Series frameCpu[2], frameWall[2], procWall[2], procCpu[2], peak[2];
+    Series frameCpu[2], buildCpu[2], frameWall[2], procWall[2], procCpu[2], peak[2], anon[2], file[2];
     int failures = 0;
 
     // Warm the file cache once, so the first measured run is not the only one reading the disk.
@@ -107,6 +107,7 @@ int main(int argc, char** argv) {
                 continue;
             }
             frameCpu[which].values.push_back(run.reported.at("first_frame_cpu_us"));
+            buildCpu[which].values.push_back(run.reported.at("build_cpu_us"));
             frameWall[which].values.push_back(run.reported.at("first_frame_wall_us"));
             procWall[which].values.push_back(run.processWallUs);
             procCpu[which].values.push_back(run.processCpuUs);
@@ -122,6 +123,8 @@ int main(int argc, char** argv) {
                 continue;
             }
             peak[which].values.push_back(run.reported.at("peak_rss_kib"));
+            anon[which].values.push_back(run.reported.at("rss_anon_kib"));
+            file[which].values.push_back(run.reported.at("rss_file_kib"));
         }
     }
 
@@ -129,10 +132,13 @@ int main(int argc, char** argv) {
                 memoryRuns);
     std::printf("| Measure | Empty window (floor) | Application | Ratio |\n|---|---|---|---|\n");
     Row("First frame in process, CPU", "ms", frameCpu[0], frameCpu[1], 1000.0);
+    Row("- of which building the window, CPU", "ms", buildCpu[0], buildCpu[1], 1000.0);
     Row("First frame in process, wall", "ms", frameWall[0], frameWall[1], 1000.0);
     Row("Whole process to first frame and exit, wall", "ms", procWall[0], procWall[1], 1000.0);
     Row("Whole process to first frame and exit, CPU", "ms", procCpu[0], procCpu[1], 1000.0);
     Row("Peak resident memory, main menu ready", "MiB", peak[0], peak[1], 1024.0);
+    Row("- resident then: anonymous (heap, pixels)", "MiB", anon[0], anon[1], 1024.0);
+    Row("- resident then: mapped files (code, pictures, fonts)", "MiB", file[0], file[1], 1024.0);
     if (failures) std::printf("\n%d run(s) failed and were left out\n", failures);
     return failures ? 1 : 0;
 }
