@@ -92,6 +92,7 @@ int main(int argc, char** argv) {
 
     const char* exe[2] = {ROBOT_BENCH_EMPTY_EXE, ROBOT_BENCH_APP_EXE};
     Series frameCpu[2], buildCpu[2], frameWall[2], procWall[2], procCpu[2], peak[2], anon[2], file[2];
+    Series slideMedian, slideWorst, slideGap;
     int failures = 0;
 
     // Warm the file cache once, so the first measured run is not the only one reading the disk.
@@ -125,6 +126,11 @@ int main(int argc, char** argv) {
             peak[which].values.push_back(run.reported.at("peak_rss_kib"));
             anon[which].values.push_back(run.reported.at("rss_anon_kib"));
             file[which].values.push_back(run.reported.at("rss_file_kib"));
+            if (which == 1 && run.reported.at("slide_ticks") > 0) {
+                slideMedian.values.push_back(run.reported.at("slide_tick_cpu_median_us"));
+                slideWorst.values.push_back(run.reported.at("slide_tick_cpu_max_us"));
+                slideGap.values.push_back(run.reported.at("slide_gap_max_us"));
+            }
         }
     }
 
@@ -139,6 +145,11 @@ int main(int argc, char** argv) {
     Row("Peak resident memory, main menu ready", "MiB", peak[0], peak[1], 1024.0);
     Row("- resident then: anonymous (heap, pixels)", "MiB", anon[0], anon[1], 1024.0);
     Row("- resident then: mapped files (code, pictures, fonts)", "MiB", file[0], file[1], 1024.0);
+    std::printf("\nThe robot's slide in those runs, on its own 10 ms timer (median over runs):\n\n");
+    std::printf("| Measure | Application |\n|---|---|\n");
+    std::printf("| CPU per tick, median of the slide | %.0f µs |\n", slideMedian.median());
+    std::printf("| CPU of the slide's costliest tick | %.0f µs |\n", slideWorst.median());
+    std::printf("| Longest time between two ticks | %.1f ms |\n", slideGap.median() / 1000.0);
     if (failures) std::printf("\n%d run(s) failed and were left out\n", failures);
     return failures ? 1 : 0;
 }
