@@ -242,6 +242,7 @@ QString Monkey::click(QPoint p) {
     if (m_failed) return text;
     // Now and then the hand rests between press and release, and timers run meanwhile.
     if (chance(10)) text += QStringLiteral(", ") + wait(below(120));
+    if (m_failed) return text;
     text += QStringLiteral(", ") + release(p);
     return text;
 }
@@ -329,6 +330,14 @@ QString Monkey::step() {
 
     const Kind kind = chooseKind();
     ++m_sent[kind];
+    // A button held since a stray press comes up before the next press: no hand presses a
+    // button that is already down.
+    const bool pressesAgain =
+        kind == ClickControl || kind == ClickAnywhere || kind == DoubleClick || kind == Drag;
+    if (m_buttonHeld && pressesAgain) {
+        const QString released = release(anywhere());
+        if (m_failed) return released;
+    }
     switch (kind) {
     case ClickControl: {
         QWidget* control = chooseControl();
