@@ -34,6 +34,24 @@ Button* MakeButton(NSViewS* parent, const Row& row) {
     return button;
 }
 
+Row SilverButton(Button** field, NSRect frame, Caption caption, bool hidden) {
+    return {.button = field,
+            .frame = frame,
+            .up = "but_common_BtnSilver",
+            .move = "but_common_over_BtnSilver",
+            .down = "but_common_over_BtnSilver",
+            .caption = caption,
+            .hidden = hidden};
+}
+
+Row HelpButton(Button** field, NSRect frame) {
+    return {.button = field,
+            .frame = frame,
+            .up = "but_question",
+            .move = "but_question_over",
+            .down = "but_question_over"};
+}
+
 void Build(NSViewS* parent, std::initializer_list<Row> rows) {
     for (const Row& row : rows) {
         if (row.button)

@@ -40,6 +40,10 @@ struct Row {
 // The font of every caption in the application.
 inline const char* const kFontName = "Courier";
 
+// Buttons several screens share: the silver push button (Back, Done, Settings) and the help button.
+Row SilverButton(Button** field, NSRect frame, Caption caption = {}, bool hidden = false);
+Row HelpButton(Button** field, NSRect frame);
+
 void Build(NSViewS* parent, std::initializer_list<Row> rows);
 NSImageViewS* MakeView(NSViewS* parent, const Row& row);
 Button* MakeButton(NSViewS* parent, const Row& row);

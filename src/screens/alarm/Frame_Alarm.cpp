@@ -120,37 +120,24 @@ template <class T> void Release(T*& widget) {
 } // namespace
 
 Frame_Alarm::Frame_Alarm(const NSRect& frame) : NSViewS(frame), m_createdAt(QDateTime::currentDateTime()) {
-    Layout::Build(this,
-                  {
-                      {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
-                      {.button = &BtnQuestion,
-                       .frame = MakeNSRect(56, 39, 29, 28),
-                       .up = "but_question",
-                       .move = "but_question_over",
-                       .down = "but_question_over"},
-                      {.button = &BtnBack,
-                       .frame = MakeNSRect(714, 711, 85, 40),
-                       .up = "but_common_BtnSilver",
-                       .move = "but_common_over_BtnSilver",
-                       .down = "but_common_over_BtnSilver",
-                       .caption = {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}},
-                      {.button = &BtnDone,
-                       .frame = MakeNSRect(839, 711, 85, 40),
-                       .up = "but_common_BtnSilver",
-                       .move = "but_common_over_BtnSilver",
-                       .down = "but_common_over_BtnSilver",
-                       .caption = {"Done", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16},
-                       .hidden = true},
-                      {.image = &txtAlarmDescription,
-                       .frame = MakeNSRect(238, 57, 213, 155),
-                       .caption = Description(kChooseDescription, 27)},
-                      {.image = &txtSiteTitle,
-                       .frame = MakeNSRect(490, 93, 124, 18),
-                       .caption = {"Alarm Clock/", NSColor::grayColor(), MakeNSRect(0, 0, 124, 18), 16}},
-                      {.image = &txtBigTitle,
-                       .frame = MakeNSRect(490, 119, 263, 40),
-                       .caption = BigTitle("Alarm Clock/")},
-                  });
+    Layout::Build(
+        this, {
+                  {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
+                  Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
+                  Layout::SilverButton(&BtnBack, MakeNSRect(714, 711, 85, 40),
+                                       {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}),
+                  Layout::SilverButton(&BtnDone, MakeNSRect(839, 711, 85, 40),
+                                       {"Done", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}, true),
+                  {.image = &txtAlarmDescription,
+                   .frame = MakeNSRect(238, 57, 213, 155),
+                   .caption = Description(kChooseDescription, 27)},
+                  {.image = &txtSiteTitle,
+                   .frame = MakeNSRect(490, 93, 124, 18),
+                   .caption = {"Alarm Clock/", NSColor::grayColor(), MakeNSRect(0, 0, 124, 18), 16}},
+                  {.image = &txtBigTitle,
+                   .frame = MakeNSRect(490, 119, 263, 40),
+                   .caption = BigTitle("Alarm Clock/")},
+              });
     flagBirthdayWakeup = 0;
     InitView();
     InitAlarmInterWorking();

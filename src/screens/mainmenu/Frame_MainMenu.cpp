@@ -48,17 +48,8 @@ Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
                        .move = "usb_focused_menus",
                        .down = "usb_selected_menus",
                        .hidden = true},
-                      {.button = &BtnSetting,
-                       .frame = MakeNSRect(689, 706, 85, 40),
-                       .up = "but_common_BtnSilver",
-                       .move = "but_common_over_BtnSilver",
-                       .down = "but_common_over_BtnSilver",
-                       .hidden = true},
-                      {.button = &BtnQuestion,
-                       .frame = MakeNSRect(56, 39, 29, 28),
-                       .up = "but_question",
-                       .move = "but_question_over",
-                       .down = "but_question_over"},
+                      Layout::SilverButton(&BtnSetting, MakeNSRect(689, 706, 85, 40), {}, true),
+                      Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
                   });
 
     // Qt keeps firing timers while a mouse button is held, so the slide goes on under a press.

@@ -45,8 +45,7 @@ void Frame_MoveMent::TextInit() {
 void Frame_MoveMent::ButtonInit() {
     // clang-format off
     Layout::Build(this, {
-        {.button = &BtnQuestion, .frame = MakeNSRect(57, 37, 29, 28),
-         .up = "but_question", .move = "but_question_over", .down = "but_question_over"},
+        Layout::HelpButton(&BtnQuestion, MakeNSRect(57, 37, 29, 28)),
         // This screen's own tab looks chosen whatever the pointer does.
         {.button = &BtnMoveMent, .frame = MakeNSRect(498, 199, 64, 63),
          .up = "movement_over", .move = "movement_over", .down = "movement_over"},
@@ -103,9 +102,7 @@ void Frame_MoveMent::ButtonInit() {
         {.button = &BtnRetPlay, .frame = MakeNSRect(606, 712, 93, 40),
          .up = "but_common_long_right_BtnSilver", .move = "but_common_long_right_over_BtnSilver",
          .down = "but_common_long_right_over_BtnSilver"},
-        {.button = &BtnBack, .frame = MakeNSRect(715, 712, 85, 40),
-         .up = "but_common_BtnSilver", .move = "but_common_over_BtnSilver", .down = "but_common_over_BtnSilver",
-         .caption = {"Back", NSColor::blackColor(), MakeNSRect(17, 11, 50, 16), kCaptionSize}},
+        Layout::SilverButton(&BtnBack, MakeNSRect(715, 712, 85, 40), {"Back", NSColor::blackColor(), MakeNSRect(17, 11, 50, 16), kCaptionSize}),
     });
     // clang-format on
 }

@@ -30,12 +30,8 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
         this,
         {
             {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
-            {.button = &BtnBack,
-             .frame = MakeNSRect(714, 711, 85, 40),
-             .up = "but_common_BtnSilver",
-             .move = "but_common_over_BtnSilver",
-             .down = "but_common_over_BtnSilver",
-             .caption = {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}},
+            Layout::SilverButton(&BtnBack, MakeNSRect(714, 711, 85, 40),
+                                 {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}),
             {.image = &txtAlarmDescription,
              .frame = MakeNSRect(238, 57, 213, 155),
              .caption =

@@ -119,11 +119,7 @@ void Frame_Sound::ButtonInit() {
     Button** b = BtnButton;
     // The timeline's up and down arrows wait, hidden, for the first item.
     Layout::Build(this, {
-                            {.button = &b[0],
-                             .frame = MakeNSRect(57, 37, 29, 28),
-                             .up = "but_question",
-                             .move = "but_question_over",
-                             .down = "but_question_over"},
+                            Layout::HelpButton(&b[0], MakeNSRect(57, 37, 29, 28)),
                             {.button = &b[1],
                              .frame = MakeNSRect(515, 199, 64, 63),
                              .up = "movement",
@@ -269,12 +265,7 @@ void Frame_Sound::ButtonInit() {
                              .up = "but_common_long_right_BtnSilver",
                              .move = "but_common_long_right_over_BtnSilver",
                              .down = "but_common_long_right_over_BtnSilver"},
-                            {.button = &b[27],
-                             .frame = MakeNSRect(715, 712, 85, 40),
-                             .up = "but_common_BtnSilver",
-                             .move = "but_common_over_BtnSilver",
-                             .down = "but_common_over_BtnSilver",
-                             .caption = back},
+                            Layout::SilverButton(&b[27], MakeNSRect(715, 712, 85, 40), back),
                         });
     // The same small arrows turn the sound set pages and the timeline's pages.
     b[kBtnPagePre]->setAccessibleName(QStringLiteral("Previous sound page"));
