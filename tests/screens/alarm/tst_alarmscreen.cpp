@@ -282,60 +282,6 @@ private slots:
         QCOMPARE(Summary(app, a), expected);
     }
 
-    void newScreenIsBuiltAsLaidOut() {
-        AppHarness app;
-        Frame_Alarm* a = app.root()->frmAlarm;
-        // The screen's own widgets first, then the sub-views, the confirmation page on top.
-        const QList<QWidget*> order{a->imgBackGround,
-                                    a->BtnQuestion,
-                                    a->BtnBack,
-                                    a->BtnDone,
-                                    a->txtAlarmDescription,
-                                    a->txtSiteTitle,
-                                    a->txtBigTitle,
-                                    a->frmChooseView,
-                                    a->frmBirthdayControlView,
-                                    a->frmBirthDateEditView,
-                                    a->frmBirthTimeEditView,
-                                    a->frmWakeupTimeEditView,
-                                    a->frmBirthTimeDateButtonView,
-                                    a->frmWakeupControlView,
-                                    a->frmWakeupTimeFreqButtonView,
-                                    a->frmDoneView};
-        QCOMPARE(WidgetChildren(a), order);
-
-        QCOMPARE(Geometry(a->frmChooseView), QRect(91, 295, 340, 154));
-        QCOMPARE(Geometry(a->frmBirthdayControlView), QRect(91, 308, 363, 89));
-        QCOMPARE(Geometry(a->frmBirthTimeDateButtonView), QRect(91, 412, 363, 108));
-        QCOMPARE(Geometry(a->frmWakeupControlView), QRect(102, 313, 350, 72));
-        QCOMPARE(Geometry(a->frmWakeupTimeFreqButtonView), QRect(102, 420, 350, 198));
-        QCOMPARE(Geometry(a->frmDoneView), QRect(0, 0, 1024, 768));
-        QCOMPARE(Geometry(a->imgDoneBackGround), QRect(0, 0, 1024, 768));
-        QCOMPARE(a->imgDoneBackGround->imgDefault.name(), QString("Pim_confirmation"));
-        QCOMPARE(a->imgDoneBackGround->parentWidget(), a->frmDoneView);
-        QCOMPARE(Geometry(a->BtnBack), QRect(714, 711, 85, 40));
-        QCOMPARE(Geometry(a->BtnDone), QRect(839, 711, 85, 40));
-        QVERIFY(a->BtnDone->isHidden());
-        QVERIFY(a->txtBigTitle->isHidden());
-        QCOMPARE(a->txtBigTitle->captionText(), QString("Alarm Clock/"));
-        QCOMPARE(a->txtAlarmDescription->captionText(),
-                 QString("Choose if you want\n your alarm to be on\n  or off."));
-        QCOMPARE(a->BtnBirthdayStatus->captionText(), QString("Birthday alarm:Off"));
-        QCOMPARE(a->BtnWakeupStatus->captionText(), QString("Wake up alarm:Off"));
-        QCOMPARE(a->txtWakeupTitle->captionText(), QString("Change the status:"));
-        QCOMPARE(a->txtWakeupTitle->Text.font.pixelSize(), 16);
-
-        // Only the choose page is up; every other page is hidden on its own.
-        QVERIFY(!a->frmChooseView->isHidden());
-        for (QWidget* page :
-             {static_cast<QWidget*>(a->frmBirthdayControlView),
-              static_cast<QWidget*>(a->frmBirthTimeDateButtonView),
-              static_cast<QWidget*>(a->frmBirthDateEditView), static_cast<QWidget*>(a->frmBirthTimeEditView),
-              static_cast<QWidget*>(a->frmWakeupTimeEditView), static_cast<QWidget*>(a->frmWakeupControlView),
-              static_cast<QWidget*>(a->frmWakeupTimeFreqButtonView), static_cast<QWidget*>(a->frmDoneView)})
-            QVERIFY(page->isHidden());
-    }
-
     void theThreeEditorsShareOnePlace_data() {
         QTest::addColumn<int>("which");
         QTest::newRow("birthday date") << 0;
