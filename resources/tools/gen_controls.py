@@ -124,12 +124,19 @@ def blue_button(name, width, look):
     x, y, w, h, r = 3, 2, width - 6, 36, 14
     pill(svg, x, y, w, h, r, look)
     if look == "marked":
-        # The mark: an orange jewel at the right end, clear of the caption.
-        cx, cy = x + w - 11, y + h / 2
-        svg.add(el("circle", cx=cx, cy=cy, r=5.5, fill=ORANGE, fill_opacity=0.45, filter=svg.blur(1.5)))
-        svg.add(el("circle", cx=cx, cy=cy, r=3.6,
-                   fill=svg.radial([(0, "#ffd9a8"), (0.45, ORANGE_LIGHT), (1, ORANGE_DARK)],
-                                   cx=0.4, cy=0.35, r=0.7)))
+        # The mark: an orange light strip low inside the pill.  Captions run almost the full
+        # width (long sound names end near the right rim), so the mark keeps below their
+        # descenders and leaves the whole caption band free.
+        sx, sw, sy, sh = x + 22, w - 44, y + h - 6.5, 2.6
+        svg.add(el("rect", x=sx - 1, y=sy - 0.4, width=sw + 2, height=sh + 0.8, rx=1.7,
+                   fill=ORANGE, fill_opacity=0.55, filter=svg.blur(1.1)))
+        svg.add(el("rect", x=sx, y=sy, width=sw, height=sh, rx=sh / 2,
+                   fill=svg.linear([(0, ORANGE_DARK), (0.18, ORANGE), (0.5, ORANGE_LIGHT),
+                                    (0.82, ORANGE), (1, ORANGE_DARK)], x2=1, y2=0)))
+        # A bright filament along its upper edge, as on a lit diffuser.
+        svg.add(el("rect", x=sx + 6, y=sy + 0.5, width=sw - 12, height=0.9, rx=0.45,
+                   fill=svg.linear([(0, "#ffd9a8", 0), (0.5, "#ffe7c7", 0.95), (1, "#ffd9a8", 0)],
+                                   x2=1, y2=0)))
     return svg
 
 
@@ -336,17 +343,16 @@ def text_well(name):
     svg.path(rrect_path(x + 1, y + 1, w - 2, h - 2, r - 1), fill="none",
              stroke=svg.linear([(0, WHITE, 0.25), (0.3, WHITE, 0)]), stroke_width=1)
     svg.path(body, fill="none", stroke=PANEL_RIM, stroke_width=1)
-    # Orange accent along the top, a quiet hint of where typing goes.
-    svg.path(rrect_path(x + 14, y + 9, 38, 3, 1.5), fill=ORANGE, fill_opacity=0.9)
-    svg.path(rrect_path(x + 56, y + 9, 8, 3, 1.5), fill=ORANGE, fill_opacity=0.5)
-    # The well around the entry line.
-    wx, wy, ww, wh = 11, 29, 205, 32
-    well = rrect_path(wx, wy, ww, wh, 8)
+    # One tall well for both fields it backs: the name line sits low in it, the picker's
+    # digits and arrow buttons fill most of it.  Nothing else is drawn above the well, since
+    # the picker is transparent from the panel's top edge down.
+    wx, wy, ww, wh, wr = 11, 10, 205, 52, 10
+    well = rrect_path(wx, wy, ww, wh, wr)
     svg.path(well, fill=svg.linear([(0, "#dfe6ef"), (0.35, "#f4f7fb"), (1, WHITE)]))
     svg.group([pel(well, fill="none", stroke="#0c1730", stroke_width=4, stroke_opacity=0.45,
                    filter=svg.blur(1.3), transform="translate(0,1.6)")], clip_path=svg.clip(well))
     svg.path(well, fill="none", stroke="#0a1228", stroke_width=1)
-    svg.path(rrect_path(wx - 1, wy - 1, ww + 2, wh + 2, 9), fill="none", stroke=CYAN, stroke_width=1,
+    svg.path(rrect_path(wx - 1, wy - 1, ww + 2, wh + 2, wr + 1), fill="none", stroke=CYAN, stroke_width=1,
              stroke_opacity=0.35)
     return svg
 
