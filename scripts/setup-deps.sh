@@ -7,6 +7,7 @@ PACKAGES=(
     qt6-base-dev qt6-base-dev-tools libgl-dev
     librsvg2-bin imagemagick
     fonts-urw-base35
+    tzdata
     xvfb xauth xdotool x11-utils strace
     desktop-file-utils appstream
 )

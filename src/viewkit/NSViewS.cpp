@@ -2,6 +2,8 @@
 
 #include "TrackingRegistry.h"
 
+#include <QApplication>
+
 NSViewS::NSViewS(const NSRect& frame) : m_frame(frame) {
     setGeometry(frame.toRect());
 }
@@ -44,4 +46,15 @@ QRect NSViewS::VisibleRect(const QWidget* widget) {
 
 void NSViewS::addTrackingRect(const QRect& rect, Button* owner, void* userData, bool assumeInside) {
     TrackingRegistry::instance().add(this, rect, owner, userData, assumeInside);
+}
+
+void NSViewS::setVisible(bool visible) {
+    // Qt hands the focus of a widget being hidden to the next one that takes focus, and where
+    // there is none (no control here takes focus but the name field and the pickers) the hidden
+    // field keeps it and goes on taking every key typed into the window.
+    if (!visible) {
+        QWidget* focused = QApplication::focusWidget();
+        if (focused && (focused == this || isAncestorOf(focused))) focused->clearFocus();
+    }
+    QWidget::setVisible(visible);
 }

@@ -31,6 +31,9 @@ public:
     // the application runs.
     void addTrackingRect(const QRect& rect, Button* owner, void* userData, bool assumeInside);
 
+    // Hiding a view takes the keyboard away from any field in it.
+    void setVisible(bool visible) override;
+
 private:
     NSRect m_frame;
 };

@@ -13,6 +13,7 @@
 #include "SoundContentLoc.h"
 #include "SoundSetText.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTimer>
@@ -59,7 +60,8 @@ QStringList AppInvariants::check() const {
     if (!m_root) return {QStringLiteral("no root view")};
     QStringList broken;
     broken << checkScreens() << checkRecords() << checkMainMenu() << checkList() << checkNameField()
-           << checkPath() << checkTimeline() << checkSoundButtons() << checkLazer() << checkAlarm();
+           << checkPath() << checkTimeline() << checkSoundButtons() << checkLazer() << checkAlarm()
+           << checkFocus();
     return broken;
 }
 
@@ -353,4 +355,13 @@ QStringList AppInvariants::checkAlarm() const {
     if (a->frmPreframe && a->frmPreframe != m_root->frmMainMenu)
         broken << QStringLiteral("the alarm screen's Back leads elsewhere than the main menu");
     return broken;
+}
+
+// Typing goes to the focused widget: one that is not on view would take keys the user cannot
+// see land, and a later Create or Set would write them.
+QStringList AppInvariants::checkFocus() const {
+    const QWidget* focused = QApplication::focusWidget();
+    if (!focused || !NSViewS::VisibleRect(focused).isEmpty()) return {};
+    return {QStringLiteral("the keyboard focus is on %1 \"%2\", which is not on view")
+                .arg(QString::fromLatin1(focused->metaObject()->className()), focused->accessibleName())};
 }

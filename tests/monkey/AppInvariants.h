@@ -8,7 +8,8 @@ class Frame_Control;
 
 // What must hold of the whole application between two inputs, whatever the inputs were: one
 // screen on view, the fixed arrays within their ends and in step with their counters, the
-// screens' records as the root view filled them, and each screen's state inside its own rules.
+// screens' records as the root view filled them, each screen's state inside its own rules, and
+// the keyboard's focus, if anywhere, on a field the user can see.
 // Reads only; never changes the application.
 class AppInvariants {
 public:
@@ -28,6 +29,7 @@ public:
     QStringList checkSoundButtons() const;
     QStringList checkLazer() const;
     QStringList checkAlarm() const;
+    QStringList checkFocus() const;
 
 private:
     const Frame_Control* m_root;

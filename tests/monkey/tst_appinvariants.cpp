@@ -12,6 +12,7 @@
 #include "LayoutTable.h"
 #include "NSColor.h"
 
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 
@@ -99,6 +100,16 @@ const Case kCases[] = {
          r->frmAlarm->BtnBack->InitButtonAction(Frame_Alarm_BackToChooseBtnAction, r->frmAlarm);
      },
      "Back leads to the wrong place"},
+    {"focus on a field not on view",
+     [](Frame_Control* r) {
+         r->frmMainMenu->setHidden(true);
+         r->frmScenario->setHidden(false);
+         r->frmScenario->txtScenarioName->setFocus();
+         r->frmScenario->QWidget::setVisible(false);
+         r->frmMainMenu->setHidden(false);
+         r->frmScenario->txtScenarioName->setFocus();
+     },
+     "the keyboard focus is on QLineEdit \"Scenario name\""},
 };
 
 } // namespace

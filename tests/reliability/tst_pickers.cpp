@@ -5,9 +5,9 @@
 #include "Frame_MainMenu.h"
 
 #include <QDateEdit>
-#include <QRegularExpression>
 #include <QTest>
 #include <QTimeEdit>
+#include <QTimeZone>
 
 #include <ctime>
 
@@ -16,8 +16,9 @@ namespace {
 enum Picker { BirthDate, BirthTime, WakeupTime };
 
 // Time zones the user may live in: UTC itself, west and east of it, half an hour off the hour,
-// and the far side of the date line.
-const char* const kZones[] = {"UTC", "America/Sao_Paulo", "Asia/Kolkata", "Pacific/Kiritimati"};
+// the far side of the date line, and the zone that skipped 2011-12-30.
+const char* const kZones[] = {"UTC", "America/Sao_Paulo", "Asia/Kolkata", "Pacific/Kiritimati",
+                              "Pacific/Apia"};
 
 void UseZone(const QByteArray& zone) {
     qputenv("TZ", zone);
@@ -70,17 +71,11 @@ void TypeIn(AppHarness& app, const QDateTimeEdit* edit, const QString& shown) {
         if (c.isDigit()) QTest::keyClick(app.handle(), c.toLatin1());
 }
 
-// What the picker shows, written the way the button writes it.
-QString Shown(const QDateTimeEdit* picker) {
-    QString text = picker->text();
-    return text.replace(QLatin1Char('-'), QLatin1Char('/')).replace(QLatin1Char(':'), QLatin1Char('/'));
-}
-
 } // namespace
 
-// The date and time pickers of the alarm screen at their extremes, in several time zones,
-// driven by the keyboard through the real window: what the picker shows after Set is what the
-// button says, always in the form year/month/day or hour/minute.
+// The date and time pickers of the alarm screen at their extremes, in several time zones, at
+// either end of the day, driven by the keyboard through the real window: what the picker shows
+// is what Set writes on the button, in the form year/month/day or hour/minute.
 class TestPickers : public QObject {
     Q_OBJECT
 private slots:
@@ -89,41 +84,54 @@ private slots:
     void extremesGiveWellFormedTexts_data() {
         QTest::addColumn<QByteArray>("zone");
         QTest::addColumn<int>("picker");
+        QTest::addColumn<QTime>("startedAt"); // the time of day the application was started
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("beyond"); // a key that tries to go past the end
-        QTest::addColumn<QString>("expected");
+        const QTime early(0, 10), late(23, 50);
         for (const char* zone : kZones) {
             const auto row = [zone](const char* what) {
                 return &QTest::newRow(
                     qPrintable(QStringLiteral("%1, %2").arg(QLatin1String(zone), QLatin1String(what))));
             };
-            *row("last date") << QByteArray(zone) << int(BirthDate) << "9999-12-31" << int(Qt::Key_Up)
-                              << "9999/12/31";
-            *row("first date") << QByteArray(zone) << int(BirthDate) << "1752-09-14" << int(Qt::Key_Down)
-                               << "";
-            *row("birthday 23:59") << QByteArray(zone) << int(BirthTime) << "23:59" << int(Qt::Key_Up)
-                                   << "23/59";
-            *row("birthday 00:00") << QByteArray(zone) << int(BirthTime) << "00:00" << int(Qt::Key_Down)
-                                   << "00/00";
-            *row("wake-up 23:59") << QByteArray(zone) << int(WakeupTime) << "23:59" << int(Qt::Key_PageUp)
-                                  << "23/59";
-            *row("wake-up 00:00") << QByteArray(zone) << int(WakeupTime) << "00:00" << int(Qt::Key_PageDown)
-                                  << "00/00";
+            for (const QTime start : {early, late}) {
+                const char* when = start == early ? "early" : "late";
+                const auto named = [&](const char* what) {
+                    return row(qPrintable(QStringLiteral("%1, started %2").arg(QLatin1String(what), when)));
+                };
+                *named("last date") << QByteArray(zone) << int(BirthDate) << start << "9999/12/31"
+                                    << int(Qt::Key_Up);
+                *named("first date") << QByteArray(zone) << int(BirthDate) << start << "1752/09/14"
+                                     << int(Qt::Key_Down);
+            }
+            *row("a day some zone skipped")
+                << QByteArray(zone) << int(BirthDate) << late << "2011/12/30" << int(Qt::Key_Left);
+            *row("birthday 23:59") << QByteArray(zone) << int(BirthTime) << early << "23/59"
+                                   << int(Qt::Key_Up);
+            *row("birthday 00:00") << QByteArray(zone) << int(BirthTime) << late << "00/00"
+                                   << int(Qt::Key_Down);
+            *row("wake-up 23:59") << QByteArray(zone) << int(WakeupTime) << early << "23/59"
+                                  << int(Qt::Key_PageUp);
+            *row("wake-up 00:00") << QByteArray(zone) << int(WakeupTime) << late << "00/00"
+                                  << int(Qt::Key_PageDown);
         }
     }
 
     void extremesGiveWellFormedTexts() {
         QFETCH(QByteArray, zone);
         QFETCH(int, picker);
+        QFETCH(QTime, startedAt);
         QFETCH(QString, typed);
         QFETCH(int, beyond);
-        QFETCH(QString, expected);
+        // Without the zone's data the C library quietly runs in UTC, and every zone would pass.
+        QVERIFY2(QTimeZone(zone).isValid(), "time zone data missing: install tzdata");
         UseZone(zone);
 
         AppHarness app;
         Frame_Alarm* a = OpenEditor(app, Picker(picker));
         QVERIFY(a);
         QDateTimeEdit* edit = PickerOf(a, Picker(picker));
+        // The day the application is started on, at that time of day.
+        edit->setDateTime(QDateTime(QDate(2026, 11, 24), startedAt, edit->timeSpec()));
         app.click(edit);
         QVERIFY(edit->hasFocus());
         TypeIn(app, edit, typed);
@@ -131,50 +139,14 @@ private slots:
         // The last section is the one being edited; going past its end changes nothing, since
         // the pickers do not wrap around.
         QTest::keyClick(app.handle(), Qt::Key(beyond));
+        QCOMPARE(edit->text(), typed);
         app.click(SetButtonOf(a, Picker(picker)));
+        QCOMPARE(ValueButtonOf(a, Picker(picker))->captionText(), typed);
+        QVERIFY(!edit->isVisible()); // Set closed the editor
 
-        const QString text = ValueButtonOf(a, Picker(picker))->captionText();
-        static const QRegularExpression form(QStringLiteral("^(\\d{4}/\\d{2}/\\d{2}|\\d{2}/\\d{2})$"));
-        QVERIFY2(form.match(text).hasMatch(), qPrintable(text));
-        QCOMPARE(text, Shown(edit));
-        if (!expected.isEmpty()) QCOMPARE(text, expected);
-        QVERIFY(edit->isHidden() || !edit->isVisible()); // Set closed the editor
-    }
-
-    // Where daylight saving starts at midnight, the first hour of that day does not exist. A
-    // picker whose day is that one (the application was started on it) and the user's 00:00
-    // still give the button a time it can show.
-    void midnightTheClockSkips_data() {
-        QTest::addColumn<int>("picker");
-        QTest::addColumn<QString>("typed");
-        QTest::newRow("birthday 00:00") << int(BirthTime) << "00:00";
-        QTest::newRow("birthday 00:30") << int(BirthTime) << "00:30";
-        QTest::newRow("wake-up 00:59") << int(WakeupTime) << "00:59";
-    }
-
-    void midnightTheClockSkips() {
-        QFETCH(int, picker);
-        QFETCH(QString, typed);
-        UseZone("America/Santiago"); // 2024-09-08 00:00 became 01:00
-        AppHarness app;
-        Frame_Alarm* a = OpenEditor(app, Picker(picker));
-        QVERIFY(a);
-        QDateTimeEdit* edit = PickerOf(a, Picker(picker));
-        edit->setDateTime(QDateTime(QDate(2024, 9, 8), QTime(12, 0)));
-        QVERIFY(edit->dateTime().isValid());
-        const QString before = ValueButtonOf(a, Picker(picker))->captionText();
-
-        app.click(edit);
-        TypeIn(app, edit, typed);
-        app.click(SetButtonOf(a, Picker(picker)));
-
-        const QString text = ValueButtonOf(a, Picker(picker))->captionText();
-        static const QRegularExpression form(QStringLiteral("^\\d{2}/\\d{2}$"));
-        QVERIFY2(form.match(text).hasMatch(),
-                 qPrintable(QStringLiteral("\"%1\" after \"%2\"").arg(text, before)));
-        // The picker refuses a time that does not exist rather than hold no time at all.
-        QVERIFY(edit->dateTime().isValid());
-        QCOMPARE(text, Shown(edit));
+        // Opened again, the picker still holds what was set.
+        app.click(ValueButtonOf(a, Picker(picker)));
+        QCOMPARE(edit->text(), typed);
     }
 };
 

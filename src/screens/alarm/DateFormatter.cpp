@@ -16,9 +16,21 @@ DateFormatter::DateFormatter(const QString& format, bool allowNaturalLanguage)
 QString DateFormatter::stringFromDate(const QDateTime& date) const {
     if (!date.isValid() || m_format.isEmpty()) return {};
 
-    const std::time_t seconds = static_cast<std::time_t>(date.toSecsSinceEpoch());
+    // The picker's own fields, as it shows them: going through the C library's local time would
+    // move a calendar date whenever the zone has no such local day (a skipped day, an offset that
+    // is not a whole minute), and the button must write what the picker showed.
+    const QDate day = date.date();
+    const QTime time = date.time();
     std::tm local{};
-    if (!localtime_r(&seconds, &local)) return {};
+    local.tm_year = day.year() - 1900;
+    local.tm_mon = day.month() - 1;
+    local.tm_mday = day.day();
+    local.tm_wday = day.dayOfWeek() % 7;
+    local.tm_yday = day.dayOfYear() - 1;
+    local.tm_hour = time.hour();
+    local.tm_min = time.minute();
+    local.tm_sec = time.second();
+    local.tm_isdst = -1;
 
     const QByteArray format = m_format.toLocal8Bit();
     std::vector<char> buffer(kFirstBufferSize);

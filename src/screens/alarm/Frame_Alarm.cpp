@@ -29,6 +29,10 @@ const char* const kWakeupMessage =
 const char* const kWakeupOnTitle = "Check information about wake up alarm:";
 const char* const kWakeupOffTitle = "Change the status:";
 
+// The calendar's range the pickers offer: Qt's own bounds for its date edits.
+const QDate kFirstPickableDay(1752, 9, 14);
+const QDate kLastPickableDay(9999, 12, 31);
+
 const char* BirthdayStatusText(qint32 enable) {
     return enable ? "Birthday alarm:On" : "Birthday alarm:Off";
 }
@@ -220,10 +224,14 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
     picker->setGeometry(MakeNSRect(18, 0, 195, 50).toRect());
     ApplyEntryFieldStyle(picker);
     SetDatePickerElements(picker, elements);
-    // Qt's date and time edits keep UTC by default; the formatters read local time, so a picker
-    // left in UTC would show one value and write another wherever the zone is not UTC.
-    picker->setTimeSpec(Qt::LocalTime);
-    picker->setDateTime(m_createdAt);
+    // A birthday is a calendar date and an alarm a time on the clock: the pickers hold them as
+    // wall-clock fields in a spec without transitions, so no zone can skip, move or refuse one
+    // (a day a zone skipped, a first date whose local offset is not a whole minute). The range
+    // is set again in that spec; Qt keeps the old bounds as instants.
+    picker->setTimeSpec(Qt::UTC);
+    picker->setDateTimeRange(QDateTime(kFirstPickableDay, QTime(0, 0), Qt::UTC),
+                             QDateTime(kLastPickableDay, QTime(23, 59, 59, 999), Qt::UTC));
+    picker->setDateTime(QDateTime(m_createdAt.date(), m_createdAt.time(), Qt::UTC));
     formatter = std::make_unique<DateFormatter>(QString::fromLatin1(format), false);
     text = formatter->stringFromDate(picker->dateTime());
     AddSubview(editor, picker);
@@ -265,10 +273,10 @@ void Frame_Alarm::InitBirthTimeDateButtonView() {
     Layout::Build(frmBirthTimeDateButtonView,
                   {
                       {.image = &txtBirthDateTitle,
-                       .frame = MakeNSRect(11, 17, 49, 19),
+                       .frame = MakeNSRect(11, 17, 52, 19),
                        .caption = {"Date:", NSColor::orangeColor(), MakeNSRect(0, 0, 49, 19), 16}},
                       {.image = &txtBirthTimeTitle,
-                       .frame = MakeNSRect(11, 66, 49, 19),
+                       .frame = MakeNSRect(11, 66, 52, 19),
                        .caption = {"Time:", NSColor::orangeColor(), MakeNSRect(0, 0, 49, 19), 16}},
                       {.button = &BtnBirthDate,
                        .frame = MakeNSRect(114, 5, 180, 46),
@@ -372,7 +380,7 @@ void Frame_Alarm::InitDoneView() {
                        .frame = MakeNSRect(490, 119, 263, 40),
                        .caption = BigTitle("Birthday Alarm")},
                       {.image = &txtDoneMessage,
-                       .frame = MakeNSRect(282, 294, 155, 110),
+                       .frame = MakeNSRect(282, 294, 167, 110),
                        .caption = DoneMessage(kBirthdayMessage)},
                   });
 }

@@ -26,7 +26,7 @@ void Frame_Lazer::InitView() {
                        .caption = {"Choose the robot\nconfiguration you\nhave built.", orange,
                                    MakeNSRect(0, 0, 209, 76), 16}},
                       {.image = &txtSiteTitle,
-                       .frame = MakeNSRect(490, 93, 160, 18),
+                       .frame = MakeNSRect(490, 93, 160, 20),
                        .caption = {"Program/Modify", grey, MakeNSRect(0, 0, 160, 18), 16}},
                       {.image = &txtLazerTitle,
                        .frame = MakeNSRect(104, 314, 341, 25),
@@ -71,7 +71,7 @@ void Frame_Lazer::InitView() {
 
     Layout::Build(this, {
                             {.image = &txtAnimation,
-                             .frame = MakeNSRect(525, 297, 130, 25),
+                             .frame = MakeNSRect(525, 297, 134, 25),
                              .caption = {"Lazer animation", grey, MakeNSRect(0, 0, 78, 25), 14}},
                             {.image = &imgLazerType,
                              .frame = MakeNSRect(540, 326, LazerPicture::kWidth, LazerPicture::kHeight),

@@ -39,7 +39,7 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
                   "or modify\nan existing scenario.",
                   NSColor::orangeColor(), MakeNSRect(0, 0, 209, 76), 16}},
             {.image = &txtSiteTitle,
-             .frame = MakeNSRect(490, 93, 124, 18),
+             .frame = MakeNSRect(490, 93, 124, 20),
              .caption = {"Program/", NSColor::grayColor(), MakeNSRect(0, 0, 124, 18), 16}},
             {.image = &txtScenarioAct,
              .frame = MakeNSRect(103, 317, 348, 18),

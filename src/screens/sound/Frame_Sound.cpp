@@ -75,7 +75,7 @@ void Frame_Sound::TextInit() {
                    .frame = MakeNSRect(106, 292, 140, 24),
                    .caption = TextCaption("Sound bricks:", orangeColor())},
                   {.image = &txtString[4],
-                   .frame = MakeNSRect(524, 295, 49, 19),
+                   .frame = MakeNSRect(524, 295, 52, 19),
                    .caption = TextCaption("sound", grayColor())},
                   {.image = &txtString[5],
                    .frame = MakeNSRect(106, 587, 119, 22),

@@ -45,8 +45,10 @@ SoundContentLoc GetSoundContentLoc(qint32 n, qint32 pageShown) {
                      kSlots[slot].rowY;
     const auto yi = static_cast<qint32>(qBound<qint64>(-(1LL << 24), y, 1LL << 24));
 
-    SetNSRect(&loc.SizeLoc, x, yi, 111, 46);
-    SetNSRect(&loc.NumberText, x - 11, yi - 5, 24, 14);
+    // Wider than the item's picture and the number's three digits need: the longest sound name
+    // and the numbers past 99 run a few points beyond, and a view cuts what runs past its edge.
+    SetNSRect(&loc.SizeLoc, x, yi, 117, 46);
+    SetNSRect(&loc.NumberText, x - 11, yi - 5, 28, 14);
 
     Link link = kSlotLinks[slot];
     if (n == 0) link = Link::Left;

@@ -22,23 +22,23 @@ private slots:
         QTest::addColumn<NSRect>("bar");
         QTest::addColumn<qint32>("kind");
         // Item 0 has the lead-in bar; every later slot 0 hangs below the previous page's last item.
-        QTest::newRow("item 0") << 0 << R(12, 9, 111, 46) << R(1, 4, 24, 14) << R(0, 27, 14, 3) << 0;
-        QTest::newRow("slot 0") << 12 << R(12, 9, 111, 46) << R(1, 4, 24, 14) << R(66, -5, 3, 14) << 1;
-        QTest::newRow("slot 1") << 13 << R(133, 9, 111, 46) << R(122, 4, 24, 14) << R(121, 27, 14, 3) << 0;
-        QTest::newRow("slot 2") << 14 << R(253, 9, 111, 46) << R(242, 4, 24, 14) << R(241, 27, 14, 3) << 0;
-        QTest::newRow("slot 3") << 15 << R(253, 63, 111, 46) << R(242, 58, 24, 14) << R(307, 49, 3, 14) << 1;
-        QTest::newRow("slot 4") << 16 << R(133, 63, 111, 46) << R(122, 58, 24, 14) << R(243, 81, 14, 3) << 0;
-        QTest::newRow("slot 5") << 17 << R(12, 63, 111, 46) << R(1, 58, 24, 14) << R(122, 81, 14, 3) << 0;
-        QTest::newRow("slot 6") << 18 << R(12, 117, 111, 46) << R(1, 112, 24, 14) << R(66, 103, 3, 14) << 1;
-        QTest::newRow("slot 7") << 19 << R(133, 117, 111, 46) << R(122, 112, 24, 14) << R(121, 135, 14, 3)
+        QTest::newRow("item 0") << 0 << R(12, 9, 117, 46) << R(1, 4, 28, 14) << R(0, 27, 14, 3) << 0;
+        QTest::newRow("slot 0") << 12 << R(12, 9, 117, 46) << R(1, 4, 28, 14) << R(66, -5, 3, 14) << 1;
+        QTest::newRow("slot 1") << 13 << R(133, 9, 117, 46) << R(122, 4, 28, 14) << R(121, 27, 14, 3) << 0;
+        QTest::newRow("slot 2") << 14 << R(253, 9, 117, 46) << R(242, 4, 28, 14) << R(241, 27, 14, 3) << 0;
+        QTest::newRow("slot 3") << 15 << R(253, 63, 117, 46) << R(242, 58, 28, 14) << R(307, 49, 3, 14) << 1;
+        QTest::newRow("slot 4") << 16 << R(133, 63, 117, 46) << R(122, 58, 28, 14) << R(243, 81, 14, 3) << 0;
+        QTest::newRow("slot 5") << 17 << R(12, 63, 117, 46) << R(1, 58, 28, 14) << R(122, 81, 14, 3) << 0;
+        QTest::newRow("slot 6") << 18 << R(12, 117, 117, 46) << R(1, 112, 28, 14) << R(66, 103, 3, 14) << 1;
+        QTest::newRow("slot 7") << 19 << R(133, 117, 117, 46) << R(122, 112, 28, 14) << R(121, 135, 14, 3)
                                 << 0;
-        QTest::newRow("slot 8") << 20 << R(253, 117, 111, 46) << R(242, 112, 24, 14) << R(241, 135, 14, 3)
+        QTest::newRow("slot 8") << 20 << R(253, 117, 117, 46) << R(242, 112, 28, 14) << R(241, 135, 14, 3)
                                 << 0;
-        QTest::newRow("slot 9") << 21 << R(253, 171, 111, 46) << R(242, 166, 24, 14) << R(307, 157, 3, 14)
+        QTest::newRow("slot 9") << 21 << R(253, 171, 117, 46) << R(242, 166, 28, 14) << R(307, 157, 3, 14)
                                 << 1;
-        QTest::newRow("slot 10") << 22 << R(133, 171, 111, 46) << R(122, 166, 24, 14) << R(243, 189, 14, 3)
+        QTest::newRow("slot 10") << 22 << R(133, 171, 117, 46) << R(122, 166, 28, 14) << R(243, 189, 14, 3)
                                  << 0;
-        QTest::newRow("slot 11") << 23 << R(12, 171, 111, 46) << R(1, 166, 24, 14) << R(122, 189, 14, 3) << 0;
+        QTest::newRow("slot 11") << 23 << R(12, 171, 117, 46) << R(1, 166, 28, 14) << R(122, 189, 14, 3) << 0;
     }
 
     void slotsOfThePageShown() {
@@ -84,10 +84,10 @@ private slots:
 
     void thirteenthItemWaitsBelowPageZero() {
         const SoundContentLoc loc = GetSoundContentLoc(12, 0);
-        QCOMPARE(loc.SizeLoc, R(12, 226, 111, 46));
+        QCOMPARE(loc.SizeLoc, R(12, 226, 117, 46));
         QCOMPARE(loc.LinkBar, R(66, 212, 3, 14));
         QCOMPARE(loc.LinkBarType, kLinkBarVertical);
-        QCOMPARE(GetSoundContentLoc(36, 0).SizeLoc, R(12, 660, 111, 46));
+        QCOMPARE(GetSoundContentLoc(36, 0).SizeLoc, R(12, 660, 117, 46));
     }
 
     void lastItemIsSlot7OfPage42() {

@@ -113,12 +113,12 @@ private slots:
         QVERIFY(!s.scrolling()); // page 0 is already shown
         QCOMPARE(s.items(), 1);
         const SOUNDSETCONTENTITEM& item = s.sound->SoundContent.Item;
-        QCOMPARE(item.BtnButton[0]->frame(), MakeNSRect(12, 9, 111, 46));
+        QCOMPARE(item.BtnButton[0]->frame(), MakeNSRect(12, 9, 117, 46));
         QCOMPARE(item.BtnButton[0]->captionText(), QStringLiteral("buzz"));
         QCOMPARE(item.BtnButton[0]->captionColor(), NSColor::grayColor());
         QCOMPARE(item.BtnButton[0]->BtnImageUp.name(), QStringLiteral("but_disabled_Btn01_1"));
         QCOMPARE(item.BtnButton[0]->BtnImageMove.name(), QStringLiteral("but_over_Btn01"));
-        QCOMPARE(item.strNumber[0]->frame(), MakeNSRect(1, 4, 24, 14));
+        QCOMPARE(item.strNumber[0]->frame(), MakeNSRect(1, 4, 28, 14));
         QCOMPARE(item.strNumber[0]->captionText(), QStringLiteral("1"));
         QCOMPARE(item.strNumber[0]->captionColor(), NSColor::orangeColor());
         QCOMPARE(item.imgLinkBar[0]->frame(), MakeNSRect(0, 27, 14, 3));
@@ -149,7 +149,7 @@ private slots:
         QCOMPARE(s.items(), 1);
         QCOMPARE(s.sound->iCurSoundSet, 13);
         QVERIFY(!s.scrolling());
-        QCOMPARE(item->frame(), MakeNSRect(12, 9, 111, 46));
+        QCOMPARE(item->frame(), MakeNSRect(12, 9, 117, 46));
     }
 
     void markFollowsTheChoice() {
@@ -230,10 +230,10 @@ private slots:
         QCOMPARE(TrackingRegistry::instance().registrationCount(item.BtnButton[11]), 1);
         QVERIFY(s.waitIdle());
         QCOMPARE(s.sound->scrollTickCount() - before, qint64(12));
-        QCOMPARE(item.BtnButton[12]->frame(), MakeNSRect(12, 9, 111, 46));
+        QCOMPARE(item.BtnButton[12]->frame(), MakeNSRect(12, 9, 117, 46));
         QCOMPARE(item.imgLinkBar[12]->frame(), MakeNSRect(66, -5, 3, 14));
-        QCOMPARE(item.BtnButton[0]->frame(), MakeNSRect(12, 9 - 217, 111, 46));
-        QCOMPARE(item.strNumber[11]->frame(), MakeNSRect(1, 166 - 217, 24, 14));
+        QCOMPARE(item.BtnButton[0]->frame(), MakeNSRect(12, 9 - 217, 117, 46));
+        QCOMPARE(item.strNumber[11]->frame(), MakeNSRect(1, 166 - 217, 28, 14));
         QVERIFY_ITEMS_IN_PLACE(s.sound);
         QCOMPARE(s.sound->SoundContent.iPageMax, 1);
     }
@@ -254,7 +254,7 @@ private slots:
         QVERIFY_ITEMS_IN_PLACE(s.sound);
         QCOMPARE(s.ticksOf(9), qint64(0));
         QCOMPARE(s.page(), 1);
-        QCOMPARE(s.sound->SoundContent.Item.BtnButton[23]->frame(), MakeNSRect(12, 171, 111, 46));
+        QCOMPARE(s.sound->SoundContent.Item.BtnButton[23]->frame(), MakeNSRect(12, 171, 117, 46));
     }
 
     void choiceFromAnEarlierPageScrollsThreePages() {
@@ -272,7 +272,7 @@ private slots:
         QVERIFY(s.waitIdle());
         QCOMPARE(s.sound->scrollTickCount() - before, qint64(33));
         QCOMPARE(s.page(), 3);
-        QCOMPARE(s.sound->SoundContent.Item.BtnButton[36]->frame(), MakeNSRect(12, 9, 111, 46));
+        QCOMPARE(s.sound->SoundContent.Item.BtnButton[36]->frame(), MakeNSRect(12, 9, 117, 46));
         QCOMPARE(ItemName(s.sound, 36), QStringLiteral("laser"));
         QVERIFY_ITEMS_IN_PLACE(s.sound);
     }
