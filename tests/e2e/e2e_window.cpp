@@ -33,6 +33,7 @@ constexpr QRect AlarmCaption(700, 347, 150, 24);
 constexpr QRect CreateScenario(95, 350, 326, 46);
 constexpr QRect NameField(551, 374, 193, 20);
 constexpr QRect CreateNamed(791, 362, 111, 46);
+constexpr QRect BackOnScenario(714, 711, 85, 40);
 // Movement screen.
 constexpr QRect MovementTabOnMovement(498, 199, 64, 63);
 constexpr QRect SoundTabOnMovement(663, 199, 64, 63);
@@ -163,8 +164,14 @@ private slots:
     void cleanup();
     void typicalRun();
     void alarmWithConfirmation();
+    void typingReachesOnlyWhatIsOnView();
+    void birthdayIsTheDayPickedInEveryZone();
 
 private:
+    // From the main menu to the birthday page with the alarm on.
+    bool openBirthdayOn();
+    // The birthday date picked by typing, then Set: the window with the date on its button.
+    QImage pickBirthday(const QString& digits);
     // Polls screenshots until every look shows (and `also`, when given, says nothing is
     // wrong), or fails the test with the reasons and the last screenshot saved.
     bool waitFor(const QString& step, const QList<Look>& looks,
@@ -478,8 +485,20 @@ void TestEndToEnd::alarmWithConfirmation() {
     Scene choosePage = On(kCommon);
     choosePage.button(QStringLiteral("but_normal_Btn03"), At::BirthdayStatus);
     const QRect lowerHalf(0, 430, 1024, 270);
+    // The message's second line ends in "I'll"; its last letter lies near the bubble's edge.
+    const QRect lastLetterOfLineTwo(438, 310, 9, 18);
     WAIT_FOR(QStringLiteral("confirmation page"),
-             {{QStringLiteral("confirmation picture"), lowerHalf, confirmation, choosePage}});
+             {{QStringLiteral("confirmation picture"), lowerHalf, confirmation, choosePage}},
+             [&](const QImage& s) {
+                 // Thin strokes on navy: any clearly orange pixel is ink.
+                 int ink = 0;
+                 for (int y = lastLetterOfLineTwo.top(); y <= lastLetterOfLineTwo.bottom(); ++y)
+                     for (int x = lastLetterOfLineTwo.left(); x <= lastLetterOfLineTwo.right(); ++x) {
+                         const QColor c = s.pixelColor(x, y);
+                         ink += c.red() > 120 && c.blue() < 100 ? 1 : 0;
+                     }
+                 return ink < 6 ? QStringLiteral("the message's \"I'll\" is cut") : QString();
+             });
     WAIT_FOR(QStringLiteral("choose page again"),
              {chooseBirthday, {QStringLiteral("no confirmation"), lowerHalf, choosePage, confirmation}},
              [&](const QImage& s) {
@@ -501,6 +520,107 @@ void TestEndToEnd::alarmWithConfirmation() {
                                          QRegularExpression::MultilineOption);
     QTRY_VERIFY2_WITH_TIMEOUT(line.match(app.errorOutput()).hasMatch(), qPrintable(app.errorOutput()), 20000);
     QCOMPARE(app.errorOutput().count(QLatin1String("BackToMainMenu")), 1);
+}
+
+// Keys typed while a field is not on view change nothing: the name typed before Back is all the
+// field holds when the screen shows again.
+void TestEndToEnd::typingReachesOnlyWhatIsOnView() {
+    AppWindow& app = *m_app;
+    QVERIFY2(menuReady(QStringLiteral("menu")), qPrintable(m_failure));
+    QVERIFY(app.click(Centre(At::Program)));
+    const Look createUp = ButtonLook(QStringLiteral("Create"), kCommon, At::CreateNamed, "but_normal_Btn01",
+                                     "but_over_Btn01", Part(At::CreateNamed, 75, 0, 36, 46));
+    const Look createScenario =
+        ButtonLook(QStringLiteral("Create a new scenario"), kCommon, At::CreateScenario, "but_normal_Btn03",
+                   nullptr, Part(At::CreateScenario, 235, 0, 91, 46));
+    WAIT_FOR(QStringLiteral("scenario screen"), {createScenario});
+    QVERIFY(app.click(Centre(At::CreateScenario)));
+    WAIT_FOR(QStringLiteral("create view"), {createUp});
+    const QImage emptyField = shot();
+    QVERIFY(app.click(Centre(At::NameField)));
+    QVERIFY(app.type(QStringLiteral("Robo")));
+    // Right of "Robo" and its caret the field stays empty.
+    const QRect afterName = Part(At::NameField, 60, 0, 130, 20);
+    WAIT_FOR(QStringLiteral("name typed"), {createUp}, [&](const QImage& s) {
+        return Scene::Difference(s, emptyField, Part(At::NameField, 0, 0, 60, 20)) < 3
+                   ? QStringLiteral("the name field shows no text")
+                   : QString();
+    });
+
+    QVERIFY(app.click(Centre(At::BackOnScenario)));
+    QVERIFY(app.moveTo(QPoint(400, 60)));
+    QVERIFY2(menuReady(QStringLiteral("back on the menu"), false), qPrintable(m_failure));
+    QVERIFY(app.type(QStringLiteral("XYZXYZXYZ")));
+    QVERIFY(app.click(Centre(At::Program)));
+    WAIT_FOR(QStringLiteral("scenario screen again"), {createScenario});
+    QVERIFY(app.click(Centre(At::CreateScenario)));
+    WAIT_FOR(QStringLiteral("create view again"), {createUp}, [&](const QImage& s) {
+        return Scene::Difference(s, emptyField, afterName) > 1
+                   ? QStringLiteral("the hidden field took the keys")
+                   : QString();
+    });
+}
+
+bool TestEndToEnd::openBirthdayOn() {
+    AppWindow& app = *m_app;
+    if (!menuReady(QStringLiteral("menu"))) return false;
+    app.click(Centre(At::Alarm));
+    if (!waitFor(QStringLiteral("choose page"),
+                 {ButtonLook(QStringLiteral("birthday status"), kCommon, At::BirthdayStatus,
+                             "but_normal_Btn03", nullptr, Part(At::BirthdayStatus, 210, 0, 116, 46))}))
+        return false;
+    app.click(Centre(At::BirthdayStatus));
+    app.click(Centre(At::BirthdayOn));
+    return waitFor(QStringLiteral("birthday on"),
+                   {ButtonLook(QStringLiteral("date button"), kCommon, At::BirthDate, "but_normal_Btn02",
+                               nullptr, Part(At::BirthDate, 120, 0, 60, 46))});
+}
+
+QImage TestEndToEnd::pickBirthday(const QString& digits) {
+    AppWindow& app = *m_app;
+    if (!openBirthdayOn()) return {};
+    app.click(Centre(At::BirthDate));
+    const Look setButton = ButtonLook(QStringLiteral("Set"), kCommon, At::EditorSet, "but_normal_Btn01",
+                                      nullptr, Part(At::EditorSet, 75, 0, 36, 46));
+    if (!waitFor(QStringLiteral("date editor"), {setButton})) return {};
+    const QImage editorOpen = shot();
+    // The year selected, then the digits: a full section hands the typing on to the next.
+    app.click(At::DatePicker.topLeft() + QPoint(24, 36));
+    app.key(QStringLiteral("Home"));
+    for (int i = 0; i < 4; ++i) app.key(QStringLiteral("shift+Right"));
+    app.type(digits);
+    app.click(Centre(At::EditorSet));
+    QImage set;
+    if (!waitFor(QStringLiteral("date set"), {}, [&](const QImage& s) {
+            set = s;
+            return Scene::Difference(s, editorOpen, At::EditorSet) < 3
+                       ? QStringLiteral("the editor is still open")
+                       : QString();
+        }))
+        return {};
+    return set;
+}
+
+// A birthday is a calendar date: picked in a zone that skipped that day, the button writes the
+// same date as in UTC.
+void TestEndToEnd::birthdayIsTheDayPickedInEveryZone() {
+    const QRect dateCaption = Part(At::BirthDate, 8, 8, 110, 30);
+    QImage inZone[2];
+    const char* const zones[] = {"UTC", "Pacific/Apia"};
+    for (int i = 0; i < 2; ++i) {
+        m_app.reset();
+        qputenv("TZ", zones[i]);
+        m_app = std::make_unique<AppWindow>(*g_display);
+        QString why;
+        const bool started = m_app->start(QStringLiteral(ROBOT_E2E_APP), &why);
+        qunsetenv("TZ");
+        QVERIFY2(started, qPrintable(why));
+        QVERIFY(m_app->moveTo(QPoint(400, 60)));
+        inZone[i] = pickBirthday(QStringLiteral("20111230"));
+        QVERIFY2(!inZone[i].isNull(), qPrintable(m_failure));
+    }
+    QVERIFY2(Scene::Difference(inZone[0], inZone[1], dateCaption) < 0.5,
+             "the date picked in Apia is written differently from the same date in UTC");
 }
 
 // Exit code CTest reads as "skipped".
