@@ -10,8 +10,7 @@ constexpr size_t kFirstBufferSize = 64;
 constexpr size_t kLargestBufferSize = size_t{1} << 16;
 } // namespace
 
-DateFormatter::DateFormatter(const QString& format, bool allowNaturalLanguage)
-    : m_format(format), m_allowNaturalLanguage(allowNaturalLanguage) {}
+DateFormatter::DateFormatter(const QString& format, bool /*allowNaturalLanguage*/) : m_format(format) {}
 
 QString DateFormatter::stringFromDate(const QDateTime& date) const {
     if (!date.isValid() || m_format.isEmpty()) return {};

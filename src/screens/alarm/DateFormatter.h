@@ -13,12 +13,10 @@ public:
     DateFormatter(const QString& format, bool allowNaturalLanguage);
 
     const QString& dateFormat() const { return m_format; }
-    bool allowsNaturalLanguage() const { return m_allowNaturalLanguage; }
 
     // An invalid value or an empty format gives an empty text.
     QString stringFromDate(const QDateTime& date) const;
 
 private:
     QString m_format;
-    bool m_allowNaturalLanguage = false;
 };

@@ -44,7 +44,6 @@ Frame_Alarm* Screen(void* context) {
     return static_cast<Frame_Alarm*>(context);
 }
 
-// Widgets may have been let go by ReleaseObj; pages then switch what is left.
 void Show(std::initializer_list<QWidget*> widgets) {
     for (QWidget* w : widgets)
         if (w) w->setHidden(false);
@@ -114,11 +113,6 @@ void ChooseFrequency(Frame_Alarm* s, qint32 type) {
     for (qint32 i = 0; i < 3; ++i)
         SetPictures(buttons[i], i == type ? "but_selected_Btn02" : "but_disabled_Btn02", "but_over_Btn02",
                     "but_selected_Btn02", s->frmWakeupTimeFreqButtonView);
-}
-
-template <class T> void Release(T*& widget) {
-    delete widget;
-    widget = nullptr;
 }
 
 } // namespace
@@ -433,30 +427,6 @@ void Frame_Alarm::DoneView() {
     Hide({BtnDone, frmDoneView});
     Show({frmChooseView});
     ChoosePageRefresh();
-}
-
-void Frame_Alarm::ReleaseObj() {
-    Release(imgBackGround);
-    Release(txtFieldGround);
-    Release(txtAlarmDescription);
-    Release(txtChooseTitle);
-    Release(txtCheckTimeDateTitle);
-    Release(txtBirthDateTitle);
-    Release(txtSiteTitle);
-    Release(txtBirthTimeTitle);
-    Release(BtnQuestion);
-    Release(BtnBirthdayStatus);
-    Release(BtnWakeupStatus);
-    Release(BtnBack);
-    Release(BtnDone);
-    Release(BtnBirthdayOn);
-    Release(BtnBirthdayOff);
-    Release(BtnBirthDate);
-    Release(BtnBirthTime);
-    Release(BtnBirthDateSet);
-    Release(frmBirthTimeDateButtonView);
-    Release(frmChooseView);
-    Release(frmBirthdayControlView);
 }
 
 void Frame_Alarm_BirthdayBtnAction(void* context, Button*) {

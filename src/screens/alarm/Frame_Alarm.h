@@ -40,9 +40,6 @@ public:
     // Leaves the confirmation page (or Done with the alarm off) for the choose page.
     void DoneView();
 
-    // Deletes the widgets it names and forgets them; nothing calls it while the application runs.
-    void ReleaseObj();
-
     // How long the confirmation page stays after Done.
     static constexpr int kConfirmationMs = 5000;
 

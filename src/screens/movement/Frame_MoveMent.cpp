@@ -137,29 +137,6 @@ void Frame_MoveMent::ButtonTrackingOn() {
                    BtnArrowDown,  BtnArrowRight,  BtnErase,    BtnRetPlay,   BtnBack});
 }
 
-void Frame_MoveMent::ReleaseObj() {
-    for (NSImageViewS*& caption : txtString) {
-        delete caption;
-        caption = nullptr;
-    }
-    for (PATHITEMSTRUCT& item : PathInfo.Item) {
-        delete item.PathImg;
-        item.PathImg = nullptr;
-    }
-    delete PathInfo.frmPath;
-    PathInfo.frmPath = nullptr;
-    delete imgBackGround;
-    imgBackGround = nullptr;
-    for (Button** button :
-         {&BtnQuestion,   &BtnMoveMent,    &BtnSound,    &BtnLazer,     &BtnFace,      &BtnPlay,
-          &BtnMoveUp,     &BtnMoveLeft,    &BtnMoveDown, &BtnMoveRight, &BtnTurnRight, &BtnTrunLeft,
-          &BtnCircleLeft, &BtnCircleRight, &BtnStop,     &BtnSelectBar, &BtnArrowUp,   &BtnArrowLeft,
-          &BtnArrowDown,  &BtnArrowRight,  &BtnErase,    &BtnRetPlay,   &BtnBack}) {
-        delete *button;
-        *button = nullptr;
-    }
-}
-
 void Frame_MoveMent::SetPath(qint32 command) {
     if (PathInfo.iItemCnt == 0) {
         // An unknown command still draws a first piece: the image slot 0 already holds.

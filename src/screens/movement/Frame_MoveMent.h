@@ -17,10 +17,6 @@ public:
     // showing it.
     void ButtonTrackingOn();
 
-    // Deletes every widget the screen made; the fields are left null. Not for use from one of
-    // the screen's own callbacks, which would delete the button that is calling.
-    void ReleaseObj();
-
     // One more piece for a movement command (0..8). On an empty path any command draws the first
     // piece (an unknown one draws whatever slot 0 holds); on a path with pieces an unknown
     // command, or any command once the path is full, changes nothing.

@@ -449,23 +449,6 @@ void Frame_Sound::SoundContentPlaceItems() {
     }
 }
 
-void Frame_Sound::ReleaseObj() {
-    SOUNDSETCONTENT& c = SoundContent;
-    if (c.timer) c.timer->stop();
-    delete c.timer;
-    // The item views go with the timeline view that holds them.
-    delete c.frmSoundContent;
-    c = SOUNDSETCONTENT{};
-    for (Button*& button : BtnButton) {
-        delete button;
-        button = nullptr;
-    }
-    for (NSImageViewS*& text : txtString) {
-        delete text;
-        text = nullptr;
-    }
-}
-
 // Callbacks: the context is always the screen.
 
 namespace {

@@ -59,10 +59,6 @@ public:
     void SoundContentItemUP();
     void SoundContentItemDown();
 
-    // Deletes the buttons, captions, timeline and its items; the screen then shows only its
-    // background and ignores every request.
-    void ReleaseObj();
-
     // Scroll ticks run since the screen was made; lets tests count a scroll's steps.
     qint64 scrollTickCount() const { return m_scrollTicks; }
 

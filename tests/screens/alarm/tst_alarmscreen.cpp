@@ -351,7 +351,6 @@ private slots:
         QCOMPARE(a->BtnBirthDate->captionText(), date);
         QVERIFY(a->forBirthDateFormatter.get() != oldDateFormatter); // made anew at Set
         QCOMPARE(a->forBirthDateFormatter->dateFormat(), QString("%Y/%m/%d"));
-        QVERIFY(!a->forBirthDateFormatter->allowsNaturalLanguage());
 
         DO_STEPS(app, a, (QStringList{"BirthTime", "BirthTimeSet"}));
         QCOMPARE(a->formattedBirthTimeString, time);
@@ -676,24 +675,6 @@ private slots:
         Frame_Alarm_DoneBtnAction(a, nullptr);
         QVERIFY(!a->timer);
         QVERIFY(a->frmChooseView->isVisible());
-    }
-
-    void releasedWidgetsAreForgottenAndTheRestStillWorks() {
-        AppHarness app;
-        Frame_Alarm* a = OpenAlarm(app);
-        QVERIFY(a);
-        DO_STEPS(app, a, (QStringList{"Wakeup"}));
-        a->ReleaseObj();
-        QVERIFY(!a->BtnBack && !a->BtnDone && !a->frmChooseView && !a->BtnBirthDate && !a->imgBackGround);
-        QVERIFY(a->BtnWakeupOn); // not among the released
-        DO_STEPS(app, a, (QStringList{"WakeOn", "Freq2", "WakeTime", "WakeTimeSet"}));
-        QCOMPARE(a->typeFrequency, 1);
-        for (ButtonCallback cb :
-             {Frame_Alarm_BirthdayBtnAction, Frame_Alarm_BirthOnBtnAction, Frame_Alarm_BirthDateSetBtnAction,
-              Frame_Alarm_BackToChooseBtnAction, Frame_Alarm_DoneBtnAction})
-            cb(a, nullptr);
-        a->DoneView();
-        QCOMPARE(a->enableBirthday, 1);
     }
 
     // Pictures of the four pages for a person to look at: ALARM_SCREENSHOT_DIR=/some/dir.

@@ -170,18 +170,6 @@ private slots:
         QCOMPARE(PiecesIn(*screen).size(), 1);
     }
 
-    void releaseLeavesNothingBehind() {
-        auto screen = NewScreen();
-        for (int c : {0, 5, 6}) screen->SetPath(c);
-        screen->ReleaseObj();
-        QVERIFY(!screen->PathInfo.frmPath && !screen->BtnBack && !screen->imgBackGround &&
-                !screen->txtString[4]);
-        for (const PATHITEMSTRUCT& item : screen->PathInfo.Item) QVERIFY(!item.PathImg);
-        QVERIFY(screen->findChildren<QWidget*>().isEmpty());
-        // Without a path view a command has nowhere to draw.
-        screen->SetPath(0);
-        QCOMPARE(screen->PathInfo.iItemCnt, 3);
-    }
 };
 
 QTEST_MAIN(TestMovementPath)

@@ -176,21 +176,6 @@ private slots:
         QCOMPARE(sound->SoundContent.iItemNum, 0);
     }
 
-    void releaseObjLeavesAnInertScreen() {
-        auto sound = MakeScreen();
-        Fill(*sound, 14);
-        sound->ReleaseObj();
-        QCOMPARE(sound->SoundContent.frmSoundContent, nullptr);
-        QCOMPARE(sound->SoundContent.iItemNum, 0);
-        for (Button* b : sound->BtnButton) QCOMPARE(b, nullptr);
-        for (NSImageViewS* t : sound->txtString) QCOMPARE(t, nullptr);
-        QCOMPARE(sound->findChildren<Button*>().size(), 0);
-        sound->SoundSet(11);
-        sound->SoundContentMoveToPage(1);
-        Frame_Sound_PageNextBtnAcion(sound.get(), nullptr);
-        sound->ButtonTrackingOn();
-        QCOMPARE(sound->SoundContent.iItemNum, 0);
-    }
 };
 
 QTEST_MAIN(TestSoundTimeline)
