@@ -15,37 +15,18 @@ marked) stay consistent across sizes:
   link_bar      the short joints between timeline items
 """
 
-import os
-import sys
-
-sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-
-from svgkit import Svg, el, pel, rrect_path, write_all  # noqa: E402
-
-ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-
-# Palette
-NAVY_DEEP = "#0c1730"
-NAVY = "#132446"
-NAVY_LIGHT = "#1b3163"
-PANEL = "#16284d"
-PANEL_RIM = "#2e4a80"
-ORANGE = "#ff8000"
-ORANGE_LIGHT = "#ffa640"
-ORANGE_DARK = "#c85f00"
-CYAN = "#36d6ff"
-CYAN_GLOW = "#8feaff"
-GREEN = "#3ddc84"
-CORAL = "#ff5a5f"
-WHITE = "#ffffff"
+from svgkit import (BLACK, CORAL, CYAN, FOCUS_BOTTOM, FOCUS_TOP, GREEN, LIT_BOTTOM, LIT_TOP,
+                    NAVY, NAVY_DEEP, NAVY_LIGHT, ORANGE, ORANGE_DARK, ORANGE_LIGHT, ORANGE_PALE,
+                    PANEL, PANEL_RIM, SLATE_BOTTOM, SLATE_RIM, SLATE_TOP, WELL_RIM, WHITE, Svg, el,
+                    group, pel, rrect_path, write_all)
 
 # Looks shared by every button family.  "top"/"bottom" are the body gradient ends.
 LOOKS = {
-    "normal": dict(top="#2d4a7a", bottom="#223a63", rim="#15284a", rim_w=1, gloss=0.10,
+    "normal": dict(top=SLATE_TOP, bottom=SLATE_BOTTOM, rim=SLATE_RIM, rim_w=1, gloss=0.10,
                    highlight=0.30, shadow=0.50, glow=None, inset=0, lift=0),
-    "over": dict(top="#3f6fb5", bottom="#2f5596", rim=CYAN, rim_w=2, gloss=0.12,
+    "over": dict(top=FOCUS_TOP, bottom=FOCUS_BOTTOM, rim=CYAN, rim_w=2, gloss=0.12,
                  highlight=0.35, shadow=0.50, glow=CYAN, inset=0, lift=0),
-    "selected": dict(top="#ff9a2e", bottom="#e06d00", rim="#a34d00", rim_w=1, gloss=0.0,
+    "selected": dict(top=LIT_TOP, bottom=LIT_BOTTOM, rim="#a34d00", rim_w=1, gloss=0.0,
                      highlight=0.0, shadow=0.25, glow=None, inset=0.40, lift=1),
     "disabled": dict(top="#3a4558", bottom="#2c3545", rim="#465166", rim_w=1, gloss=0.0,
                      highlight=0.0, shadow=0.0, glow=None, inset=0, lift=1),
@@ -77,8 +58,7 @@ def pill(svg, x, y, w, h, r, look, corners=None, visible=None):
 
     # Soft drop shadow, a little below the body.
     if lk["shadow"]:
-        svg.path(body, fill="#000000", fill_opacity=lk["shadow"], filter=svg.blur(1.2),
-                 transform="translate(0,1.6)")
+        svg.shadow(body, lk["shadow"], 1.2, 1.6)
     # Outer glow of the over looks.
     if lk["glow"]:
         svg.path(outline, fill="none", stroke=lk["glow"], stroke_width=3, stroke_opacity=0.75,
@@ -100,10 +80,10 @@ def pill(svg, x, y, w, h, r, look, corners=None, visible=None):
                          fill="none", stroke=line, stroke_width=1))
     # Pressed-in looks: a blurred dark rim pushed down inside the body.
     if lk["inset"]:
-        inner.append(pel(body, fill="none", stroke="#000000", stroke_width=5,
+        inner.append(pel(body, fill="none", stroke=BLACK, stroke_width=5,
                          stroke_opacity=lk["inset"], filter=svg.blur(1.6), transform="translate(0,1.8)"))
     if inner:
-        svg.group(inner, clip_path=clip)
+        svg.add(group(inner, clip_path=clip))
 
     if lk["rim_w"] == 2:
         # A 2 px rim drawn inside the outline, so it never leaves the canvas.
@@ -115,6 +95,13 @@ def pill(svg, x, y, w, h, r, look, corners=None, visible=None):
     else:
         svg.path(body, fill="none", stroke=lk["rim"], stroke_width=1)
     return body
+
+
+def top_light(svg, x, y, w, h, r, strength, reach):
+    """The thin light line just inside a dark panel's rim, strongest along the top and gone
+    `reach` of the way down."""
+    svg.path(rrect_path(x + 1, y + 1, w - 2, h - 2, r - 1), fill="none",
+             stroke=svg.linear([(0, WHITE, strength), (reach, WHITE, 0)]), stroke_width=1)
 
 
 # --- blue button family (Btn01 111, Btn02 180, Btn03 326 wide; all 46 high) -----------------
@@ -135,7 +122,7 @@ def blue_button(name, width, look):
                                     (0.82, ORANGE), (1, ORANGE_DARK)], x2=1, y2=0)))
         # A bright filament along its upper edge, as on a lit diffuser.
         svg.add(el("rect", x=sx + 6, y=sy + 0.5, width=sw - 12, height=0.9, rx=0.45,
-                   fill=svg.linear([(0, "#ffd9a8", 0), (0.5, "#ffe7c7", 0.95), (1, "#ffd9a8", 0)],
+                   fill=svg.linear([(0, ORANGE_PALE, 0), (0.5, "#ffe7c7", 0.95), (1, ORANGE_PALE, 0)],
                                    x2=1, y2=0)))
     return svg
 
@@ -198,12 +185,12 @@ def small_button(name, glyph, focus):
     if glyph in ("up", "down"):
         d = -1 if glyph == "up" else 1
         tri = (f"M{cx - 6},{cy - 2.8 * d} L{cx + 6},{cy - 2.8 * d} L{cx},{cy + 3.6 * d} Z")
-        svg.path(tri, fill="#000000", fill_opacity=0.35, transform="translate(0,1)", filter=svg.blur(0.6))
+        svg.path(tri, fill=BLACK, fill_opacity=0.35, transform="translate(0,1)", filter=svg.blur(0.6))
         svg.path(tri, fill=WHITE, stroke=WHITE, stroke_width=1.4, stroke_linejoin="round")
     elif glyph == "x":
         ink = WHITE if focus else CORAL
         d = f"M{cx - 4},{cy - 4} L{cx + 4},{cy + 4} M{cx + 4},{cy - 4} L{cx - 4},{cy + 4}"
-        svg.path(d, fill="none", stroke="#000000", stroke_opacity=0.35, stroke_width=3,
+        svg.path(d, fill="none", stroke=BLACK, stroke_opacity=0.35, stroke_width=3,
                  stroke_linecap="round", transform="translate(0,1)", filter=svg.blur(0.6))
         svg.path(d, fill="none", stroke=ink, stroke_width=2.8, stroke_linecap="round")
     elif glyph == "go":
@@ -214,7 +201,7 @@ def small_button(name, glyph, focus):
              f"L{gx + rx},{cy + 0.6} L{gx + 0.6},{cy + 0.6}")
         o = (f"M{ox - rx},{cy} A{rx},{ry} 0 1 0 {ox + rx},{cy} A{rx},{ry} 0 1 0 {ox - rx},{cy} Z")
         for d in (g, o):
-            svg.path(d, fill="none", stroke="#000000", stroke_opacity=0.35, stroke_width=2.4,
+            svg.path(d, fill="none", stroke=BLACK, stroke_opacity=0.35, stroke_width=2.4,
                      transform="translate(0,1)", filter=svg.blur(0.6))
         for d in (g, o):
             svg.path(d, fill="none", stroke=ink, stroke_width=2.1, stroke_linecap="round",
@@ -228,7 +215,7 @@ def question(name, over):
     svg = Svg(29, 28, name)
     cx, cy, r = 14.5, 13.2, 11
     lk = LOOKS["over" if over else "normal"]
-    svg.add(el("circle", cx=cx, cy=cy + 1.5, r=r, fill="#000000", fill_opacity=0.5, filter=svg.blur(1.1)))
+    svg.add(el("circle", cx=cx, cy=cy + 1.5, r=r, fill=BLACK, fill_opacity=0.5, filter=svg.blur(1.1)))
     if over:
         svg.add(el("circle", cx=cx, cy=cy, r=r, fill="none", stroke=CYAN, stroke_width=3,
                    stroke_opacity=0.75, filter=svg.blur(1.0)))
@@ -244,7 +231,7 @@ def question(name, over):
     hook = (f"M{cx - 3.4},{cy - 3.2} C{cx - 3.4},{cy - 7.2} {cx + 3.6},{cy - 7.4} {cx + 3.6},{cy - 3.4} "
             f"C{cx + 3.6},{cy - 0.6} {cx},{cy - 0.4} {cx},{cy + 2.4}")
     ink = WHITE if over else "#ffb565"
-    svg.path(hook, fill="none", stroke="#000000", stroke_opacity=0.35, stroke_width=2.6,
+    svg.path(hook, fill="none", stroke=BLACK, stroke_opacity=0.35, stroke_width=2.6,
              stroke_linecap="round", transform="translate(0,0.8)", filter=svg.blur(0.5))
     svg.path(hook, fill="none", stroke=ink, stroke_width=2.3, stroke_linecap="round")
     svg.add(el("circle", cx=cx, cy=cy + 6.3, r=1.55, fill=ink))
@@ -258,12 +245,11 @@ def select_strip(name, focus):
     x, y, w, h = 3, 4, 338, 34
     r = h / 2
     body = rrect_path(x, y, w, h, r)
-    svg.path(body, fill="#000000", fill_opacity=0.5, filter=svg.blur(1.4), transform="translate(0,1.8)")
+    svg.shadow(body, 0.5, 1.4, 1.8)
     if focus:
         svg.path(body, fill="none", stroke=CYAN, stroke_width=3, stroke_opacity=0.7, filter=svg.blur(1.2))
     svg.path(body, fill=svg.linear([(0, NAVY_LIGHT), (1, NAVY)]))
-    svg.path(rrect_path(x + 1, y + 1, w - 2, h - 2, r - 1), fill="none",
-             stroke=svg.linear([(0, WHITE, 0.22), (0.4, WHITE, 0)]), stroke_width=1)
+    top_light(svg, x, y, w, h, r, 0.22, 0.4)
     if focus:
         svg.path(rrect_path(x + 1, y + 1, w - 2, h - 2, r - 1), fill="none", stroke=CYAN, stroke_width=2)
     else:
@@ -273,8 +259,8 @@ def select_strip(name, focus):
     gx, gw, gy, gh = 44, 256, y + h / 2 - 5, 10
     groove = rrect_path(gx, gy, gw, gh, 5)
     svg.path(groove, fill=NAVY_DEEP)
-    svg.group([pel(groove, fill="none", stroke="#000000", stroke_width=3, stroke_opacity=0.6,
-                   filter=svg.blur(1.0), transform="translate(0,1.2)")], clip_path=svg.clip(groove))
+    svg.add(group([pel(groove, fill="none", stroke=BLACK, stroke_width=3, stroke_opacity=0.6,
+                       filter=svg.blur(1.0), transform="translate(0,1.2)")], clip_path=svg.clip(groove)))
     svg.path(groove, fill="none", stroke=PANEL_RIM, stroke_width=1, stroke_opacity=0.8)
     for i in range(1, 16):
         svg.add(el("circle", cx=gx + i * gw / 16, cy=gy + gh / 2, r=1, fill=PANEL_RIM))
@@ -292,7 +278,7 @@ def select_strip(name, focus):
     # Arrow ends: round buttons pointing outward.
     for cx, d in ((x + r, -1), (x + w - r, 1)):
         cy, cr = y + h / 2, r - 4
-        svg.add(el("circle", cx=cx, cy=cy + 1.2, r=cr, fill="#000000", fill_opacity=0.45,
+        svg.add(el("circle", cx=cx, cy=cy + 1.2, r=cr, fill=BLACK, fill_opacity=0.45,
                    filter=svg.blur(0.9)))
         svg.add(el("circle", cx=cx, cy=cy, r=cr,
                    fill=svg.radial([(0, lk["top"]), (1, lk["bottom"])], cx=0.45, cy=0.3, r=0.75)))
@@ -312,13 +298,12 @@ def list_bar(name):
     svg = Svg(414, 39, name)
     x, y, w, h, r = 2, 2.5, 410, 33, 10
     body = rrect_path(x, y, w, h, r)
-    svg.path(body, fill="#000000", fill_opacity=0.45, filter=svg.blur(1.2), transform="translate(0,1.5)")
+    svg.shadow(body, 0.45, 1.2, 1.5)
     svg.path(body, fill="none", stroke=CYAN, stroke_width=3, stroke_opacity=0.35, filter=svg.blur(1.2))
     svg.path(body, fill=svg.linear([(0, "#24457d"), (0.55, "#2c5291"), (1, "#1f3c6e")], x2=1, y2=0))
-    svg.group([el("rect", x=x, y=y, width=w, height=h * 0.5,
-                  fill=svg.linear([(0, WHITE, 0.10), (1, WHITE, 0)]))], clip_path=svg.clip(body))
-    svg.path(rrect_path(x + 1, y + 1, w - 2, h - 2, r - 1), fill="none",
-             stroke=svg.linear([(0, WHITE, 0.3), (0.35, WHITE, 0)]), stroke_width=1)
+    svg.add(group([el("rect", x=x, y=y, width=w, height=h * 0.5,
+                      fill=svg.linear([(0, WHITE, 0.10), (1, WHITE, 0)]))], clip_path=svg.clip(body)))
+    top_light(svg, x, y, w, h, r, 0.3, 0.35)
     svg.path(body, fill="none", stroke=CYAN, stroke_width=1, stroke_opacity=0.85)
     # Orange marker at the left edge, before the caption.
     svg.path(rrect_path(x + 3, y + 6, 4, h - 12, 2),
@@ -338,10 +323,9 @@ def text_well(name):
     svg = Svg(227, 72, name)
     x, y, w, h, r = 2, 2, 223, 66, 11
     body = rrect_path(x, y, w, h, r)
-    svg.path(body, fill="#000000", fill_opacity=0.5, filter=svg.blur(1.4), transform="translate(0,1.8)")
+    svg.shadow(body, 0.5, 1.4, 1.8)
     svg.path(body, fill=svg.linear([(0, NAVY_LIGHT), (1, PANEL)]))
-    svg.path(rrect_path(x + 1, y + 1, w - 2, h - 2, r - 1), fill="none",
-             stroke=svg.linear([(0, WHITE, 0.25), (0.3, WHITE, 0)]), stroke_width=1)
+    top_light(svg, x, y, w, h, r, 0.25, 0.3)
     svg.path(body, fill="none", stroke=PANEL_RIM, stroke_width=1)
     # One tall well for both fields it backs: the name line sits low in it, the picker's
     # digits and arrow buttons fill most of it.  Nothing else is drawn above the well, since
@@ -349,9 +333,9 @@ def text_well(name):
     wx, wy, ww, wh, wr = 11, 10, 205, 52, 10
     well = rrect_path(wx, wy, ww, wh, wr)
     svg.path(well, fill=svg.linear([(0, "#dfe6ef"), (0.35, "#f4f7fb"), (1, WHITE)]))
-    svg.group([pel(well, fill="none", stroke="#0c1730", stroke_width=4, stroke_opacity=0.45,
-                   filter=svg.blur(1.3), transform="translate(0,1.6)")], clip_path=svg.clip(well))
-    svg.path(well, fill="none", stroke="#0a1228", stroke_width=1)
+    svg.add(group([pel(well, fill="none", stroke=NAVY_DEEP, stroke_width=4, stroke_opacity=0.45,
+                       filter=svg.blur(1.3), transform="translate(0,1.6)")], clip_path=svg.clip(well)))
+    svg.path(well, fill="none", stroke=WELL_RIM, stroke_width=1)
     svg.path(rrect_path(wx - 1, wy - 1, ww + 2, wh + 2, wr + 1), fill="none", stroke=CYAN, stroke_width=1,
              stroke_opacity=0.35)
     return svg
@@ -368,7 +352,7 @@ def link_bar(name, horizontal):
     return svg
 
 
-def build():
+def pictures():
     pics = {}
 
     def put(svg):
@@ -407,11 +391,5 @@ def build():
     return pics
 
 
-def main():
-    pics = build()
-    written = write_all(pics, os.path.join(ROOT, "pictures.tsv"), os.path.join(ROOT, "svg"))
-    print(f"{len(pics)} pictures, {len(written)} changed, in {os.path.join(ROOT, 'svg')}")
-
-
 if __name__ == "__main__":
-    main()
+    write_all(pictures())

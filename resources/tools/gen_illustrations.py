@@ -12,159 +12,42 @@ the build only renders them.
 """
 
 import math
-import os
 import random
-import sys
+from functools import partial
 
-OUT_DIR = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "svg")
+from svgkit import (BLACK, CORAL, CYAN, CYAN_GLOW, FOCUS_BOTTOM, FOCUS_TOP, GREEN, JOINT,
+                    LIT_BOTTOM, LIT_TOP, NAVY, NAVY_DEEP, NAVY_LIGHT, ORANGE, ORANGE_DARK,
+                    ORANGE_LIGHT, ORANGE_PALE, OUTLINE, PANEL, PANEL_RIM, SHELL, SHELL_SHADE,
+                    SLATE_BOTTOM, SLATE_TOP, VISOR, WELL_RIM, WHITE, YELLOW, Svg, fmt, write_all)
 
-# Palette shared with the rest of the artwork.
-NAVY_DEEP = "#0c1730"
-NAVY = "#132446"
-NAVY_LIGHT = "#1b3163"
-PANEL = "#16284d"
-PANEL_RIM = "#2e4a80"
-ORANGE = "#ff8000"
-ORANGE_LIGHT = "#ffa640"
-ORANGE_DARK = "#c85f00"
-SHELL = "#eef2f7"
-SHELL_SHADE = "#c5d0de"
-JOINT = "#8a97ab"
-VISOR = "#1a2236"
-CYAN = "#36d6ff"
-CYAN_GLOW = "#8feaff"
-GREEN = "#3ddc84"
-CORAL = "#ff5a5f"
-YELLOW = "#ffd23f"
-OUTLINE = "#66748c"
+# These pictures were laid out to a hundredth of a pixel; a finer rounding would shift their
+# anti-aliased edges.
+f = partial(fmt, places=2)
 
 
-def f(v):
-    """Compact number formatting so the SVGs stay small and diff-friendly."""
-    r = round(v, 2)
-    if r == int(r):
-        return str(int(r))
-    return ("%.2f" % r).rstrip("0")
-
-
-class Doc:
-    """One SVG document: collects definitions once and body markup in order."""
-
-    def __init__(self, w, h):
-        self.w, self.h = w, h
-        self.defs = []
-        self.def_ids = set()
-        self.body = []
-        self.counter = 0
-
-    def uid(self, stem):
-        self.counter += 1
-        return "%s%d" % (stem, self.counter)
-
-    def define(self, did, markup):
-        if did not in self.def_ids:
-            self.def_ids.add(did)
-            self.defs.append(markup)
-        return did
-
-    def add(self, markup):
-        self.body.append(markup)
-
-    def text(self):
-        head = ('<svg xmlns="http://www.w3.org/2000/svg" width="%d" height="%d" '
-                'viewBox="0 0 %d %d">\n' % (self.w, self.h, self.w, self.h))
-        defs = "<defs>\n" + "\n".join(self.defs) + "\n</defs>\n" if self.defs else ""
-        return head + defs + "\n".join(self.body) + "\n</svg>\n"
-
-
-# ---------------------------------------------------------------------------
-# Shared paint: gradients and filters
-# ---------------------------------------------------------------------------
-
-def lin(doc, did, stops, x1=0, y1=0, x2=0, y2=1, units=None):
-    s = "".join('<stop offset="%s" stop-color="%s"%s/>' % (
-        f(o), c, (' stop-opacity="%s"' % f(a)) if a is not None else "")
-        for o, c, a in [(st + (None,))[:3] for st in stops])
-    u = ' gradientUnits="%s"' % units if units else ""
-    return doc.define(did, '<linearGradient id="%s" x1="%s" y1="%s" x2="%s" y2="%s"%s>%s</linearGradient>'
-                      % (did, f(x1), f(y1), f(x2), f(y2), u, s))
-
-
-def rad(doc, did, stops, cx=0.5, cy=0.5, r=0.5, fx=None, fy=None, units=None, extra=""):
-    s = "".join('<stop offset="%s" stop-color="%s"%s/>' % (
-        f(o), c, (' stop-opacity="%s"' % f(a)) if a is not None else "")
-        for o, c, a in [(st + (None,))[:3] for st in stops])
-    fxy = ""
-    if fx is not None:
-        fxy = ' fx="%s" fy="%s"' % (f(fx), f(fy))
-    u = ' gradientUnits="%s"' % units if units else ""
-    return doc.define(did, '<radialGradient id="%s" cx="%s" cy="%s" r="%s"%s%s%s>%s</radialGradient>'
-                      % (did, f(cx), f(cy), f(r), fxy, u, extra, s))
-
-
-def shadow_filter(doc, did, blur=6, dy=6, opacity=0.45, color="#040914"):
-    return doc.define(did, (
-        '<filter id="%s" x="-30%%" y="-30%%" width="160%%" height="170%%" color-interpolation-filters="sRGB">'
-        '<feGaussianBlur in="SourceAlpha" stdDeviation="%s"/>'
-        '<feOffset dy="%s" result="o"/>'
-        '<feFlood flood-color="%s" flood-opacity="%s"/>'
-        '<feComposite in2="o" operator="in"/>'
-        '<feMerge><feMergeNode/><feMergeNode in="SourceGraphic"/></feMerge>'
-        '</filter>') % (did, f(blur), f(dy), color, f(opacity)))
-
-
-def glow_filter(doc, did, blur=4, opacity=0.9):
-    return doc.define(did, (
-        '<filter id="%s" x="-100%%" y="-100%%" width="300%%" height="300%%" color-interpolation-filters="sRGB">'
-        '<feGaussianBlur in="SourceGraphic" stdDeviation="%s" result="b"/>'
-        '<feComponentTransfer in="b" result="c"><feFuncA type="linear" slope="%s"/></feComponentTransfer>'
-        '<feMerge><feMergeNode in="c"/><feMergeNode in="SourceGraphic"/></feMerge>'
-        '</filter>') % (did, f(blur), f(opacity)))
-
-
-def blur_filter(doc, did, blur):
-    return doc.define(did, (
-        '<filter id="%s" x="-50%%" y="-50%%" width="200%%" height="200%%">'
-        '<feGaussianBlur stdDeviation="%s"/></filter>') % (did, f(blur)))
-
-
-def inset_filter(doc, did, blur=3, dy=2, opacity=0.55):
-    """Inner shadow: darkens the inside edge along the top, a pressed-in look."""
-    return doc.define(did, (
-        '<filter id="%s" x="-10%%" y="-10%%" width="120%%" height="120%%" color-interpolation-filters="sRGB">'
-        '<feComponentTransfer in="SourceAlpha" result="inv"><feFuncA type="table" tableValues="1 0"/></feComponentTransfer>'
-        '<feGaussianBlur in="inv" stdDeviation="%s"/>'
-        '<feOffset dy="%s" result="sh"/>'
-        '<feFlood flood-color="#2a0f00" flood-opacity="%s"/>'
-        '<feComposite in2="sh" operator="in"/>'
-        '<feComposite in2="SourceAlpha" operator="in" result="inner"/>'
-        '<feMerge><feMergeNode in="SourceGraphic"/><feMergeNode in="inner"/></feMerge>'
-        '</filter>') % (did, f(blur), f(dy), f(opacity)))
-
-
-def robot_paints(doc):
+def robot_paints(svg):
     """Gradients every robot part uses; ids are fixed so parts can share them."""
-    rad(doc, "shell", [(0, "#ffffff"), (0.5, SHELL), (1, SHELL_SHADE)], cx=0.38, cy=0.28, r=0.85)
-    lin(doc, "shellV", [(0, "#ffffff"), (0.45, SHELL), (1, SHELL_SHADE)])
-    lin(doc, "shellAcross", [(0, SHELL_SHADE), (0.35, "#ffffff"), (0.6, SHELL), (1, "#aab6c8")])
-    rad(doc, "joint", [(0, "#b9c3d2"), (0.6, JOINT), (1, "#5f6b80")], cx=0.38, cy=0.32, r=0.75)
-    lin(doc, "jointAcross", [(0, "#5f6b80"), (0.4, "#aeb8c8"), (1, "#66728a")])
-    lin(doc, "visor", [(0, "#2a3654"), (0.55, VISOR), (1, "#0d1322")])
-    rad(doc, "orangeBall", [(0, "#ffd9a8"), (0.35, ORANGE_LIGHT), (0.8, ORANGE), (1, ORANGE_DARK)],
-        cx=0.4, cy=0.35, r=0.7)
-    rad(doc, "cyanEye", [(0, "#e6fbff"), (0.35, CYAN_GLOW), (1, CYAN)], cx=0.45, cy=0.35, r=0.75)
-    rad(doc, "tyre", [(0, "#3a4660"), (0.75, "#232c40"), (1, "#141a28")], cx=0.45, cy=0.4, r=0.6)
-    lin(doc, "belt", [(0, "#364260"), (0.5, "#222b3f"), (1, "#141a28")])
-    lin(doc, "bellGold", [(0, "#fff1b0"), (0.4, YELLOW), (1, "#d89a10")], x1=0, y1=0, x2=1, y2=1)
-    glow_filter(doc, "glow", 3.5, 0.95)
-    glow_filter(doc, "glowBig", 8, 0.9)
+    svg.radial([(0, WHITE), (0.5, SHELL), (1, SHELL_SHADE)], cx=0.38, cy=0.28, r=0.85, name="shell")
+    svg.linear([(0, WHITE), (0.45, SHELL), (1, SHELL_SHADE)], name="shellV")
+    svg.linear([(0, SHELL_SHADE), (0.35, WHITE), (0.6, SHELL), (1, "#aab6c8")], name="shellAcross")
+    svg.radial([(0, "#b9c3d2"), (0.6, JOINT), (1, "#5f6b80")], cx=0.38, cy=0.32, r=0.75, name="joint")
+    svg.linear([(0, "#5f6b80"), (0.4, "#aeb8c8"), (1, "#66728a")], name="jointAcross")
+    svg.linear([(0, "#2a3654"), (0.55, VISOR), (1, "#0d1322")], name="visor")
+    svg.radial([(0, ORANGE_PALE), (0.35, ORANGE_LIGHT), (0.8, ORANGE), (1, ORANGE_DARK)],
+               cx=0.4, cy=0.35, r=0.7, name="orangeBall")
+    svg.radial([(0, "#e6fbff"), (0.35, CYAN_GLOW), (1, CYAN)], cx=0.45, cy=0.35, r=0.75, name="cyanEye")
+    svg.radial([(0, "#3a4660"), (0.75, "#232c40"), (1, "#141a28")], cx=0.45, cy=0.4, r=0.6, name="tyre")
+    svg.linear([(0, "#364260"), (0.5, "#222b3f"), (1, "#141a28")], name="belt")
+    svg.linear([(0, "#fff1b0"), (0.4, YELLOW), (1, "#d89a10")], x2=1, y2=1, name="bellGold")
+    svg.glow("glow", 3.5, 0.95)
+    svg.glow("glowBig", 8, 0.9)
 
 
 # ---------------------------------------------------------------------------
 # Robot parts.  All take a scale s; sizes are given for s = 1.
 # ---------------------------------------------------------------------------
 
-def capsule(doc, x1, y1, x2, y2, w, fill="url(#shellAcross)", stroke=OUTLINE, sw=2):
+def capsule(svg, x1, y1, x2, y2, w, fill="url(#shellAcross)", stroke=OUTLINE, sw=2):
     dx, dy = x2 - x1, y2 - y1
     length = math.hypot(dx, dy)
     ang = math.degrees(math.atan2(dy, dx))
@@ -195,14 +78,14 @@ def hand(x, y, r, ang, s):
     return "".join(parts)
 
 
-def arm(doc, sx, sy, ex, ey, hx, hy, s, hand_r=None):
+def arm(svg, sx, sy, ex, ey, hx, hy, s, hand_r=None):
     """Shoulder -> elbow -> hand, drawn back to front."""
     w = 24 * s
     hr = hand_r if hand_r else 19 * s
     ang = math.degrees(math.atan2(hy - ey, hx - ex))
     return "".join([
-        capsule(doc, sx, sy, ex, ey, w, sw=2 * s),
-        capsule(doc, ex, ey, hx, hy, w * 0.92, sw=2 * s),
+        capsule(svg, sx, sy, ex, ey, w, sw=2 * s),
+        capsule(svg, ex, ey, hx, hy, w * 0.92, sw=2 * s),
         joint(ex, ey, w * 0.62, 2 * s),
         hand(hx, hy, hr, ang, s),
         joint(sx, sy, w * 0.8, 2 * s),
@@ -226,7 +109,7 @@ def antenna(cx, top, s, lean=0):
     ])
 
 
-def head(doc, cx, cy, s, mood="smile", tilt=0, antenna_lean=0):
+def head(svg, cx, cy, s, mood="smile", tilt=0, antenna_lean=0):
     """The character's head: a rounded shell, dark visor, two glowing eyes."""
     w, h = 200 * s, 150 * s
     out = ['<g transform="rotate(%s %s %s)">' % (f(tilt), f(cx), f(cy + h / 2))]
@@ -295,7 +178,7 @@ def neck(cx, top, s, length=18):
             'stroke-width="%s"/>' % (f(cx - 24 * s), f(top), f(48 * s), f(length * s), f(6 * s), f(2 * s)))
 
 
-def torso(doc, cx, top, w, h, s, core=True):
+def torso(svg, cx, top, w, h, s, core=True):
     """Rounded, slightly tapering body with a chest panel and a glowing core."""
     bw = w * 0.84
     r = 34 * s
@@ -387,7 +270,7 @@ def track(cx, cy, w, h, s):
     return "".join(out)
 
 
-def leg(doc, hx, hy, kx, ky, fx, fy, s, foot_dir=1):
+def leg(svg, hx, hy, kx, ky, fx, fy, s, foot_dir=1):
     w = 30 * s
     foot = ('<path d="M%s %s Q%s %s %s %s L%s %s Q%s %s %s %s Z" fill="url(#shell)" stroke="%s" stroke-width="%s"/>'
             % (f(fx - 30 * s), f(fy + 14 * s), f(fx - 30 * s), f(fy - 14 * s), f(fx + 2 * s), f(fy - 14 * s),
@@ -401,8 +284,8 @@ def leg(doc, hx, hy, kx, ky, fx, fy, s, foot_dir=1):
         sole = ('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="%s"/>'
                 % (f(fx - 40 * s), f(fy + 10 * s), f(72 * s), f(7 * s), f(3.5 * s), ORANGE))
     return "".join([
-        capsule(doc, hx, hy, kx, ky, w, sw=2 * s),
-        capsule(doc, kx, ky, fx, fy - 6 * s, w * 0.9, sw=2 * s),
+        capsule(svg, hx, hy, kx, ky, w, sw=2 * s),
+        capsule(svg, kx, ky, fx, fy - 6 * s, w * 0.9, sw=2 * s),
         joint(kx, ky, w * 0.6, 2 * s),
         foot, sole,
         joint(hx, hy, w * 0.7, 2 * s),
@@ -429,9 +312,9 @@ def laser_turret(x, y, s, beam=160, ang=-18):
     return "".join(out)
 
 
-def laser_paints(doc):
-    lin(doc, "beamGrad", [(0, CORAL, 0.95), (0.7, CORAL, 0.45), (1, CORAL, 0)], x1=0, y1=0, x2=1, y2=0)
-    lin(doc, "beamCore", [(0, "#fff4f4", 1), (1, "#ffd0d2", 0)], x1=0, y1=0, x2=1, y2=0)
+def laser_paints(svg):
+    svg.linear([(0, CORAL, 0.95), (0.7, CORAL, 0.45), (1, CORAL, 0)], x2=1, y2=0, name="beamGrad")
+    svg.linear([(0, "#fff4f4", 1), (1, "#ffd0d2", 0)], x2=1, y2=0, name="beamCore")
 
 
 def floor_shadow(cx, cy, rx, ry, opacity=0.55):
@@ -443,8 +326,9 @@ def floor_shadow(cx, cy, rx, ry, opacity=0.55):
 # The three builds.  Each draws with its ground point at (cx, gy).
 # ---------------------------------------------------------------------------
 
-def build_rover(doc, cx, gy, s, wave=False, mood="smile"):
-    """Build A: a compact body riding on two big wheels."""
+def build_rover(svg, cx, gy, s, pose="rest", mood="smile"):
+    """Build A: a compact body riding on two big wheels.  pose: "rest", "wave" (one arm raised
+    high behind the body) or "cheer" (both arms up, a bell ringing in the left hand)."""
     wr = 58 * s
     wy = gy - wr
     tw, th = 190 * s, 150 * s
@@ -453,25 +337,34 @@ def build_rover(doc, cx, gy, s, wave=False, mood="smile"):
     # axle strut behind the wheels
     out.append('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#jointAcross)" stroke="#4f5a6d" '
                'stroke-width="%s"/>' % (f(cx - 110 * s), f(wy - 12 * s), f(220 * s), f(24 * s), f(10 * s), f(2 * s)))
-    hy = ttop - 18 * s - 75 * s + 6 * s
-    if wave:
-        # the waving arm goes behind the body, raised high
-        out.append(arm(doc, cx + tw / 2 - 6 * s, ttop + 28 * s, cx + tw / 2 + 58 * s, ttop - 20 * s,
+    if pose == "wave":
+        out.append(arm(svg, cx + tw / 2 - 6 * s, ttop + 28 * s, cx + tw / 2 + 58 * s, ttop - 20 * s,
                        cx + tw / 2 + 70 * s, ttop - 92 * s, s, 22 * s))
-    out.append(torso(doc, cx, ttop, tw, th, s))
+    elif pose == "cheer":
+        # right arm (viewer's right) up, waving
+        out.append(arm(svg, cx + tw / 2 - 6 * s, ttop + 28 * s, cx + tw / 2 + 64 * s, ttop - 16 * s,
+                       cx + tw / 2 + 84 * s, ttop - 96 * s, s, 22 * s))
+        # left arm up holding the bell
+        lhx, lhy = cx - tw / 2 - 86 * s, ttop - 100 * s
+        out.append(arm(svg, cx - tw / 2 + 6 * s, ttop + 28 * s, cx - tw / 2 - 64 * s, ttop - 14 * s,
+                       lhx, lhy, s, 22 * s))
+        out.append(hand_bell(lhx, lhy, 1.05 * s, ang=30))
+        out.append(hand(lhx, lhy, 22 * s, -120, s))
+    out.append(torso(svg, cx, ttop, tw, th, s))
     out.append(wheel(cx - 92 * s, wy, wr, s))
     out.append(wheel(cx + 92 * s, wy, wr, s))
     # resting arms hang in front of the wheels, hands clear of the tyres
-    sides = (-1,) if wave else (-1, 1)
+    sides = {"rest": (-1, 1), "wave": (-1,), "cheer": ()}[pose]
     for side in sides:
-        out.append(arm(doc, cx + side * (tw / 2 - 6 * s), ttop + 28 * s, cx + side * (tw / 2 + 36 * s),
+        out.append(arm(svg, cx + side * (tw / 2 - 6 * s), ttop + 28 * s, cx + side * (tw / 2 + 36 * s),
                        ttop + 64 * s, cx + side * (tw / 2 + 60 * s), ttop + 96 * s, s))
     out.append(neck(cx, ttop - 18 * s, s, 24))
-    out.append(head(doc, cx, hy, s, mood=mood, tilt=-4 if wave else 0, antenna_lean=8 if wave else 0))
+    tilt, lean = {"rest": (0, 0), "wave": (-4, 8), "cheer": (5, -10)}[pose]
+    out.append(head(svg, cx, ttop - 87 * s, s, mood=mood, tilt=tilt, antenna_lean=lean))
     return "".join(out)
 
 
-def build_walker(doc, cx, gy, s, mood="smile"):
+def build_walker(svg, cx, gy, s, mood="smile"):
     """Build B: tall, on two legs, arms out in a friendly pose."""
     out = [floor_shadow(cx, gy - 2 * s, 120 * s, 12 * s)]
     fy = gy - 17 * s
@@ -480,19 +373,19 @@ def build_walker(doc, cx, gy, s, mood="smile"):
     ttop = hip_y - th + 20 * s
     out.append('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#jointAcross)" stroke="#4f5a6d" '
                'stroke-width="%s"/>' % (f(cx - 60 * s), f(hip_y - 22 * s), f(120 * s), f(36 * s), f(14 * s), f(2 * s)))
-    out.append(leg(doc, cx - 40 * s, hip_y, cx - 50 * s, hip_y + 76 * s, cx - 46 * s, fy, s, -1))
-    out.append(leg(doc, cx + 40 * s, hip_y, cx + 50 * s, hip_y + 76 * s, cx + 46 * s, fy, s, 1))
-    out.append(arm(doc, cx - tw / 2 + 4 * s, ttop + 26 * s, cx - tw / 2 - 52 * s, ttop + 60 * s,
+    out.append(leg(svg, cx - 40 * s, hip_y, cx - 50 * s, hip_y + 76 * s, cx - 46 * s, fy, s, -1))
+    out.append(leg(svg, cx + 40 * s, hip_y, cx + 50 * s, hip_y + 76 * s, cx + 46 * s, fy, s, 1))
+    out.append(arm(svg, cx - tw / 2 + 4 * s, ttop + 26 * s, cx - tw / 2 - 52 * s, ttop + 60 * s,
                    cx - tw / 2 - 70 * s, ttop + 4 * s, s))
-    out.append(arm(doc, cx + tw / 2 - 4 * s, ttop + 26 * s, cx + tw / 2 + 48 * s, ttop + 72 * s,
+    out.append(arm(svg, cx + tw / 2 - 4 * s, ttop + 26 * s, cx + tw / 2 + 48 * s, ttop + 72 * s,
                    cx + tw / 2 + 62 * s, ttop + 126 * s, s))
-    out.append(torso(doc, cx, ttop, tw, th, s))
+    out.append(torso(svg, cx, ttop, tw, th, s))
     out.append(neck(cx, ttop - 18 * s, s, 24))
-    out.append(head(doc, cx, ttop - 18 * s - 69 * s, s * 0.92, mood=mood))
+    out.append(head(svg, cx, ttop - 18 * s - 69 * s, s * 0.92, mood=mood))
     return "".join(out)
 
 
-def build_tank(doc, cx, gy, s, mood="smile", beam=150):
+def build_tank(svg, cx, gy, s, mood="smile", beam=150):
     """Build C: on tracks, with a laser turret on the shoulder."""
     out = [floor_shadow(cx, gy - 2 * s, 160 * s, 13 * s)]
     th_ = 64 * s
@@ -502,9 +395,9 @@ def build_tank(doc, cx, gy, s, mood="smile", beam=150):
     out.append('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#jointAcross)" stroke="#4f5a6d" '
                'stroke-width="%s"/>' % (f(cx - 80 * s), f(ty - th_ / 2 - 16 * s), f(160 * s), f(28 * s), f(8 * s),
                                         f(2 * s)))
-    out.append(arm(doc, cx - tw / 2 + 6 * s, btop + 28 * s, cx - tw / 2 - 32 * s, btop + 76 * s,
+    out.append(arm(svg, cx - tw / 2 + 6 * s, btop + 28 * s, cx - tw / 2 - 32 * s, btop + 76 * s,
                    cx - tw / 2 - 30 * s, btop + 124 * s, s))
-    out.append(torso(doc, cx, btop, tw, bh, s))
+    out.append(torso(svg, cx, btop, tw, bh, s))
     out.append(track(cx, ty, 270 * s, th_, s))
     # fender over the track
     out.append('<path d="M%s %s Q%s %s %s %s H%s Q%s %s %s %s Z" fill="url(#shellV)" stroke="%s" stroke-width="%s"/>'
@@ -512,19 +405,19 @@ def build_tank(doc, cx, gy, s, mood="smile", beam=150):
                   f(cx - 118 * s), f(ty - th_ / 2 - 10 * s), f(cx + 118 * s), f(cx + 140 * s),
                   f(ty - th_ / 2 - 10 * s), f(cx + 140 * s), f(ty - th_ / 2 + 8 * s), OUTLINE, f(2 * s)))
     out.append(neck(cx, btop - 18 * s, s, 24))
-    out.append(head(doc, cx, btop - 18 * s - 69 * s, s * 0.95, mood=mood))
+    out.append(head(svg, cx, btop - 18 * s - 69 * s, s * 0.95, mood=mood))
     # turret on the right shoulder, then the near arm
     out.append(joint(cx + tw / 2 - 8 * s, btop + 10 * s, 20 * s, 2 * s))
     out.append(laser_turret(cx + tw / 2 + 2 * s, btop - 8 * s, s, beam=beam, ang=-14))
-    out.append(arm(doc, cx + tw / 2 - 6 * s, btop + 40 * s, cx + tw / 2 + 34 * s, btop + 82 * s,
+    out.append(arm(svg, cx + tw / 2 - 6 * s, btop + 40 * s, cx + tw / 2 + 34 * s, btop + 82 * s,
                    cx + tw / 2 + 34 * s, btop + 128 * s, s))
     return "".join(out)
 
 
-def all_robot_paints(doc):
-    robot_paints(doc)
-    laser_paints(doc)
-    blur_filter(doc, "softShadow", 6)
+def all_robot_paints(svg):
+    robot_paints(svg)
+    laser_paints(svg)
+    svg.soft_blur("softShadow", 6)
 
 
 # ---------------------------------------------------------------------------
@@ -566,7 +459,7 @@ def hand_bell(x, y, s, ang=-20):
     return "".join(out)
 
 
-def confetti(rng, boxes, count, avoid, colors=(ORANGE, ORANGE_LIGHT, CYAN, GREEN, CORAL, YELLOW, "#ffffff")):
+def confetti(rng, boxes, count, avoid, colors=(ORANGE, ORANGE_LIGHT, CYAN, GREEN, CORAL, YELLOW, WHITE)):
     out = []
     placed = 0
     tries = 0
@@ -620,53 +513,56 @@ def stars(rng, count, area, avoid, max_r=1.5):
 # Backgrounds
 # ---------------------------------------------------------------------------
 
-def sky(doc, glow_cx=512, glow_cy=300, glow_r=620):
-    lin(doc, "sky", [(0, NAVY_DEEP), (0.45, NAVY), (1, "#0f1d3b")])
-    rad(doc, "skyGlow", [(0, NAVY_LIGHT, 0.9), (0.55, NAVY_LIGHT, 0.35), (1, NAVY_LIGHT, 0)],
-        cx=glow_cx, cy=glow_cy, r=glow_r, units="userSpaceOnUse")
-    rad(doc, "vignette", [(0, "#000000", 0), (0.62, "#000000", 0), (1, "#02050d", 0.6)],
-        cx=512, cy=384, r=700, units="userSpaceOnUse")
-    doc.add('<rect width="1024" height="768" fill="url(#sky)"/>')
-    doc.add('<rect width="1024" height="768" fill="url(#skyGlow)"/>')
+NIGHT = [(0, NAVY_DEEP), (0.45, NAVY), (1, "#0f1d3b")]
+NIGHT_GLOW = [(0, NAVY_LIGHT, 0.9), (0.55, NAVY_LIGHT, 0.35), (1, NAVY_LIGHT, 0)]
 
 
-def ambient(doc):
+def sky(svg, glow_cx, glow_cy, glow_r, night=NIGHT, glow=NIGHT_GLOW):
+    svg.linear(night, name="sky")
+    svg.radial(glow, cx=glow_cx, cy=glow_cy, r=glow_r, units="userSpaceOnUse", name="skyGlow")
+    svg.radial([(0, BLACK, 0), (0.62, BLACK, 0), (1, "#02050d", 0.6)],
+               cx=512, cy=384, r=700, units="userSpaceOnUse", name="vignette")
+    svg.add('<rect width="1024" height="768" fill="url(#sky)"/>')
+    svg.add('<rect width="1024" height="768" fill="url(#skyGlow)"/>')
+
+
+def ambient(svg):
     """Low light from below and a couple of out-of-focus glints: depth without clutter."""
-    rad(doc, "horizon", [(0, CYAN, 0.16), (0.5, CYAN, 0.05), (1, CYAN, 0)])
-    doc.add('<ellipse cx="512" cy="790" rx="640" ry="150" fill="url(#horizon)"/>')
-    rad(doc, "bokeh", [(0, CYAN_GLOW, 0.12), (1, CYAN_GLOW, 0)])
+    svg.radial([(0, CYAN, 0.16), (0.5, CYAN, 0.05), (1, CYAN, 0)], name="horizon")
+    svg.add('<ellipse cx="512" cy="790" rx="640" ry="150" fill="url(#horizon)"/>')
+    svg.radial([(0, CYAN_GLOW, 0.12), (1, CYAN_GLOW, 0)], name="bokeh")
     for x, y, r in ((990, 250, 60), (30, 720, 70), (1000, 600, 40)):
-        doc.add('<circle cx="%s" cy="%s" r="%s" fill="url(#bokeh)"/>' % (f(x), f(y), f(r)))
+        svg.add('<circle cx="%s" cy="%s" r="%s" fill="url(#bokeh)"/>' % (f(x), f(y), f(r)))
 
 
-def vignette(doc):
-    doc.add('<rect width="1024" height="768" fill="url(#vignette)"/>')
+def vignette(svg):
+    svg.add('<rect width="1024" height="768" fill="url(#vignette)"/>')
 
 
-def panel(doc, x, y, w, h, r=22, fill=PANEL, opacity=1, rim=PANEL_RIM, shadow=True):
-    lin(doc, "panelFill", [(0, "#1a3059"), (0.25, PANEL), (1, "#13234a")])
-    shadow_filter(doc, "panelShadow", 10, 8, 0.55)
+def panel(svg, x, y, w, h, r=22, fill=PANEL, opacity=1, rim=PANEL_RIM, shadow=True):
+    svg.linear([(0, "#1a3059"), (0.25, PANEL), (1, "#13234a")], name="panelFill")
+    svg.drop_shadow("panelShadow", 10, 8, 0.55)
     sh = ' filter="url(#panelShadow)"' if shadow else ""
-    doc.add('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#panelFill)" fill-opacity="%s" '
+    svg.add('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#panelFill)" fill-opacity="%s" '
             'stroke="%s" stroke-width="1"%s/>' % (f(x + 0.5), f(y + 0.5), f(w - 1), f(h - 1), f(r), f(opacity), rim, sh))
     # a faint inner highlight line along the top edge
-    doc.add('<path d="M%s %s H%s" stroke="#ffffff" stroke-opacity="0.07" stroke-width="1.5" stroke-linecap="round"/>'
+    svg.add('<path d="M%s %s H%s" stroke="#ffffff" stroke-opacity="0.07" stroke-width="1.5" stroke-linecap="round"/>'
             % (f(x + r), f(y + 2.5), f(x + w - r)))
 
 
-def tray(doc, x, y, w, h, r=16):
+def tray(svg, x, y, w, h, r=16):
     """A recessed strip where silver buttons sit."""
-    lin(doc, "trayFill", [(0, "#081226"), (1, "#0f1c3a")])
-    doc.add('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#trayFill)" fill-opacity="0.85" '
+    svg.linear([(0, "#081226"), (1, "#0f1c3a")], name="trayFill")
+    svg.add('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#trayFill)" fill-opacity="0.85" '
             'stroke="%s" stroke-opacity="0.8" stroke-width="1"/>' % (f(x + 0.5), f(y + 0.5), f(w - 1), f(h - 1), f(r),
                                                                       PANEL_RIM))
-    doc.add('<path d="M%s %s H%s" stroke="#000000" stroke-opacity="0.35" stroke-width="2" stroke-linecap="round"/>'
+    svg.add('<path d="M%s %s H%s" stroke="#000000" stroke-opacity="0.35" stroke-width="2" stroke-linecap="round"/>'
             % (f(x + r), f(y + 2), f(x + w - r)))
 
 
-def grid(doc, x, y, w, h, step=28, opacity=0.07, r=14):
-    cid = doc.uid("gridClip")
-    doc.add('<clipPath id="%s"><rect x="%s" y="%s" width="%s" height="%s" rx="%s"/></clipPath>'
+def grid(svg, x, y, w, h, step=28, opacity=0.07, r=14):
+    cid = svg.uid("gridClip")
+    svg.add('<clipPath id="%s"><rect x="%s" y="%s" width="%s" height="%s" rx="%s"/></clipPath>'
             % (cid, f(x), f(y), f(w), f(h), f(r)))
     lines = []
     gx = x + (w % step) / 2
@@ -677,127 +573,133 @@ def grid(doc, x, y, w, h, step=28, opacity=0.07, r=14):
     while gy <= y + h:
         lines.append("M%s %s H%s" % (f(x), f(gy), f(x + w)))
         gy += step
-    doc.add('<g clip-path="url(#%s)"><rect x="%s" y="%s" width="%s" height="%s" fill="#0a1531" fill-opacity="0.55"/>'
+    svg.add('<g clip-path="url(#%s)"><rect x="%s" y="%s" width="%s" height="%s" fill="#0a1531" fill-opacity="0.55"/>'
             '<path d="%s" stroke="%s" stroke-opacity="%s" stroke-width="1"/></g>'
             % (cid, f(x), f(y), f(w), f(h), " ".join(lines), CYAN, f(opacity)))
-    doc.add('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="none" stroke="%s" stroke-opacity="0.5"/>'
+    svg.add('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="none" stroke="%s" stroke-opacity="0.5"/>'
             % (f(x + 0.5), f(y + 0.5), f(w - 1), f(h - 1), f(r), PANEL_RIM))
 
 
-def speech_card(doc, x, y, w, h, tail_x, tail_y, r=20, side="left"):
-    """A soft card for the help text, with a little tail toward the mascot."""
-    lin(doc, "cardFill", [(0, "#142a52", 0.9), (1, "#0f1f40", 0.9)])
+def tailed_card(x, y, w, h, r, side, ty0, ty1, tip):
+    """Outline of a rounded card with a pointed tail out of its left or right edge: the tail's
+    base runs from ty0 down to ty1 on that edge, its point is at tip."""
+    x1, y1 = x + w, y + h
+    tail = "L%s %s L%s %s" % (f(tip[0]), f(tip[1]), f(x1 if side == "right" else x),
+                              f(ty1 if side == "right" else ty0))
+    parts = ["M%s %s H%s Q%s %s %s %s" % (f(x + r), f(y), f(x1 - r), f(x1), f(y), f(x1), f(y + r))]
+    if side == "right":
+        parts.append("V%s %s" % (f(ty0), tail))
+    parts.append("V%s Q%s %s %s %s H%s Q%s %s %s %s" % (f(y1 - r), f(x1), f(y1), f(x1 - r), f(y1),
+                                                          f(x + r), f(x), f(y1), f(x), f(y1 - r)))
     if side == "left":
-        ty0, ty1 = y + h * 0.48, y + h * 0.66
-        d = ("M%s %s H%s Q%s %s %s %s V%s Q%s %s %s %s H%s Q%s %s %s %s V%s L%s %s L%s %s V%s Q%s %s %s %s Z" % (
-            f(x + r), f(y), f(x + w - r), f(x + w), f(y), f(x + w), f(y + r),
-            f(y + h - r), f(x + w), f(y + h), f(x + w - r), f(y + h),
-            f(x + r), f(x), f(y + h), f(x), f(y + h - r),
-            f(ty1), f(tail_x), f(tail_y), f(x), f(ty0), f(y + r), f(x), f(y), f(x + r), f(y)))
-    else:
-        ty0, ty1 = y + h * 0.3, y + h * 0.5
-        d = ("M%s %s H%s Q%s %s %s %s V%s L%s %s L%s %s V%s Q%s %s %s %s H%s Q%s %s %s %s V%s Q%s %s %s %s Z" % (
-            f(x + r), f(y), f(x + w - r), f(x + w), f(y), f(x + w), f(y + r),
-            f(ty0), f(tail_x), f(tail_y), f(x + w), f(ty1),
-            f(y + h - r), f(x + w), f(y + h), f(x + w - r), f(y + h),
-            f(x + r), f(x), f(y + h), f(x), f(y + h - r),
-            f(y + r), f(x), f(y), f(x + r), f(y)))
-    shadow_filter(doc, "cardShadow", 8, 6, 0.5)
-    doc.add('<path d="%s" fill="url(#cardFill)" stroke="%s" stroke-width="1.2" stroke-linejoin="round" '
+        parts.append("V%s %s" % (f(ty1), tail))
+    parts.append("V%s Q%s %s %s %s Z" % (f(y + r), f(x), f(y), f(x + r), f(y)))
+    return " ".join(parts)
+
+
+def speech_card(svg, x, y, w, h, tip, r=20):
+    """A soft card for the help text, with a little tail toward the mascot on its left."""
+    svg.linear([(0, "#142a52", 0.9), (1, "#0f1f40", 0.9)], name="cardFill")
+    d = tailed_card(x, y, w, h, r, "left", y + h * 0.48, y + h * 0.66, tip)
+    svg.drop_shadow("cardShadow", 8, 6, 0.5)
+    svg.add('<path d="%s" fill="url(#cardFill)" stroke="%s" stroke-width="1.2" stroke-linejoin="round" '
             'filter="url(#cardShadow)"/>' % (d, PANEL_RIM))
 
 
-def mascot_badge(doc, cx, cy, s):
+def mascot_badge(svg, cx, cy, s):
     """Just the head, for the corner of the work screens."""
-    doc.add('<circle cx="%s" cy="%s" r="%s" fill="%s" opacity="0.35" filter="url(#haloBlur)"/>'
+    svg.add('<circle cx="%s" cy="%s" r="%s" fill="%s" opacity="0.35" filter="url(#haloBlur)"/>'
             % (f(cx), f(cy), f(95 * s), CYAN))
-    doc.add('<g filter="url(#robotShadow)">%s</g>' % head(doc, cx, cy, s, mood="smile", tilt=-6, antenna_lean=6))
+    svg.add('<g filter="url(#robotShadow)">%s</g>' % head(svg, cx, cy, s, mood="smile", tilt=-6, antenna_lean=6))
 
 
-def header_rule(doc, x0, x1, y):
-    lin(doc, "ruleGrad", [(0, ORANGE, 0.85), (0.5, ORANGE, 0.35), (1, ORANGE, 0)], x1=0, y1=0, x2=1, y2=0)
-    doc.add('<rect x="%s" y="%s" width="%s" height="2" rx="1" fill="url(#ruleGrad)"/>' % (f(x0), f(y), f(x1 - x0)))
+def header_rule(svg, x0, x1, y):
+    svg.linear([(0, ORANGE, 0.85), (0.5, ORANGE, 0.35), (1, ORANGE, 0)], x2=1, y2=0, name="ruleGrad")
+    svg.add('<rect x="%s" y="%s" width="%s" height="2" rx="1" fill="url(#ruleGrad)"/>' % (f(x0), f(y), f(x1 - x0)))
 
 
-def background_common_parts(doc):
-    all_robot_paints(doc)
-    blur_filter(doc, "haloBlur", 28)
-    shadow_filter(doc, "robotShadow", 6, 6, 0.5)
+def background_common_parts(svg):
+    all_robot_paints(svg)
+    svg.soft_blur("haloBlur", 28)
+    svg.drop_shadow("robotShadow", 6, 6, 0.5)
+
+
+# The work screens differ only in where things sit: the seed of their stars and the places the
+# stars keep clear of, the help card (x, y, w, h), the mascot's height and the orange rule under
+# the title (x0, x1, y).
+WORK_SCREENS = {
+    "common_bg": (11, [(50, 30, 470, 230), (480, 80, 960, 170), (76, 270, 476, 684), (494, 254, 958, 694),
+                       (690, 696, 950, 766)], (226, 46, 240, 178), 140, (490, 950, 176)),
+    "scenario_bg": (23, [(50, 30, 470, 250), (470, 70, 960, 140), (76, 270, 476, 684), (478, 178, 962, 700),
+                         (500, 696, 820, 766)], (226, 56, 242, 170), 146, (488, 950, 150)),
+}
+
+
+def work_screen(name):
+    """What the work screens share: the night sky, the mascot in the corner with its help card
+    and the rule under the title."""
+    seed, avoid, card, badge_y, rule = WORK_SCREENS[name]
+    svg = Svg(1024, 768, name)
+    background_common_parts(svg)
+    sky(svg, 260, 140, 700)
+    svg.add(stars(random.Random(seed), 90, (0, 0, 1024, 768), avoid))
+    ambient(svg)
+    vignette(svg)
+    speech_card(svg, *card, (206, 150))
+    mascot_badge(svg, 138, badge_y, 0.5)
+    header_rule(svg, *rule)
+    return svg
 
 
 def gen_common_bg():
-    doc = Doc(1024, 768)
-    background_common_parts(doc)
-    sky(doc, 260, 140, 700)
-    rng = random.Random(11)
-    avoid = [(50, 30, 470, 230), (480, 80, 960, 170), (76, 270, 476, 684), (494, 254, 958, 694), (690, 696, 950, 766)]
-    doc.add(stars(rng, 90, (0, 0, 1024, 768), avoid))
-    ambient(doc)
-    vignette(doc)
-    speech_card(doc, 226, 46, 240, 178, 206, 150)
-    mascot_badge(doc, 138, 140, 0.5)
-    header_rule(doc, 490, 950, 176)
-    panel(doc, 72, 278, 410, 400)
-    panel(doc, 498, 258, 456, 432)
-    tray(doc, 700, 699, 244, 64)
-    return doc
+    svg = work_screen("common_bg")
+    panel(svg, 72, 278, 410, 400)
+    panel(svg, 498, 258, 456, 432)
+    tray(svg, 700, 699, 244, 64)
+    return svg
 
 
 def gen_scenario_bg():
-    doc = Doc(1024, 768)
-    background_common_parts(doc)
-    sky(doc, 260, 140, 700)
-    rng = random.Random(23)
-    avoid = [(50, 30, 470, 250), (470, 70, 960, 140), (76, 270, 476, 684), (478, 178, 962, 700), (500, 696, 820, 766)]
-    doc.add(stars(rng, 90, (0, 0, 1024, 768), avoid))
-    ambient(doc)
-    vignette(doc)
-    speech_card(doc, 226, 56, 242, 170, 206, 150)
-    mascot_badge(doc, 138, 146, 0.5)
-    header_rule(doc, 488, 950, 150)
-    panel(doc, 84, 276, 384, 400)
+    svg = work_screen("scenario_bg")
+    panel(svg, 84, 276, 384, 400)
     # one workspace card: the tab bar on top, the editing area below
-    panel(doc, 484, 182, 472, 510)
-    lin(doc, "tabBar", [(0, "#0b1730"), (1, "#0e1c3a")])
-    doc.add('<rect x="492" y="190" width="456" height="80" rx="16" fill="url(#tabBar)" fill-opacity="0.9" '
+    panel(svg, 484, 182, 472, 510)
+    svg.linear([(0, "#0b1730"), (1, "#0e1c3a")], name="tabBar")
+    svg.add('<rect x="492" y="190" width="456" height="80" rx="16" fill="url(#tabBar)" fill-opacity="0.9" '
             'stroke="%s" stroke-opacity="0.7"/>' % PANEL_RIM)
-    grid(doc, 506, 280, 436, 400, step=28, opacity=0.08, r=14)
-    tray(doc, 504, 700, 310, 64)
-    return doc
+    grid(svg, 506, 280, 436, 400, step=28, opacity=0.08, r=14)
+    tray(svg, 504, 700, 310, 64)
+    return svg
 
 
 def gen_mainpage_bg():
-    doc = Doc(1024, 768)
-    background_common_parts(doc)
-    lin(doc, "sky", [(0, NAVY_DEEP), (0.5, NAVY), (1, "#10204a")])
-    rad(doc, "skyGlow", [(0, "#2a4b92", 0.9), (0.35, "#223f7c", 0.6), (0.7, NAVY_LIGHT, 0.25), (1, NAVY_LIGHT, 0)],
-        cx=300, cy=540, r=600, units="userSpaceOnUse")
-    rad(doc, "vignette", [(0, "#000000", 0), (0.62, "#000000", 0), (1, "#02050d", 0.6)],
-        cx=512, cy=384, r=700, units="userSpaceOnUse")
-    doc.add('<rect width="1024" height="768" fill="url(#sky)"/>')
-    doc.add('<rect width="1024" height="768" fill="url(#skyGlow)"/>')
+    svg = Svg(1024, 768, "mainpage_bg")
+    background_common_parts(svg)
+    sky(svg, 300, 540, 600, night=[(0, NAVY_DEEP), (0.5, NAVY), (1, "#10204a")],
+        glow=[(0, "#2a4b92", 0.9), (0.35, "#223f7c", 0.6), (0.7, NAVY_LIGHT, 0.25), (1, NAVY_LIGHT, 0)])
     rng = random.Random(5)
     avoid = [(40, 25, 100, 80), (580, 150, 884, 540), (670, 690, 790, 760)]
-    doc.add(stars(rng, 130, (0, 0, 1024, 700), avoid, max_r=1.7))
+    svg.add(stars(rng, 130, (0, 0, 1024, 700), avoid, max_r=1.7))
     # a friendly ringed planet peeking in at the top right
-    rad(doc, "planet", [(0, "#3a63b0"), (0.65, "#1f3c7a"), (1, "#152b5c")], cx=0.35, cy=0.3, r=0.8)
+    svg.radial([(0, "#3a63b0"), (0.65, "#1f3c7a"), (1, "#152b5c")], cx=0.35, cy=0.3, r=0.8, name="planet")
     ring = ('<g transform="translate(955 96) rotate(-16)" fill="none" stroke="%s" stroke-linecap="round">'
             '<path d="M-190 0 A190 30 0 0 1 190 0" stroke-opacity="%s" stroke-width="%s"/></g>')
-    doc.add(ring % (CYAN, "0.18", "5"))
-    doc.add('<circle cx="955" cy="96" r="112" fill="url(#planet)" opacity="0.75"/>')
-    doc.add('<path d="M880 60 Q930 20 990 34" fill="none" stroke="#ffffff" stroke-opacity="0.12" stroke-width="10" '
+    svg.add(ring % (CYAN, "0.18", "5"))
+    svg.add('<circle cx="955" cy="96" r="112" fill="url(#planet)" opacity="0.75"/>')
+    svg.add('<path d="M880 60 Q930 20 990 34" fill="none" stroke="#ffffff" stroke-opacity="0.12" stroke-width="10" '
             'stroke-linecap="round"/>')
-    doc.add('<circle cx="905" cy="140" r="12" fill="#0f2450" opacity="0.35"/>'
+    svg.add('<circle cx="905" cy="140" r="12" fill="#0f2450" opacity="0.35"/>'
             '<circle cx="950" cy="168" r="7" fill="#0f2450" opacity="0.35"/>')
-    doc.add(ring.replace('A190 30 0 0 1 190 0', 'A190 30 0 0 0 190 0') % (CYAN, "0.35", "5"))
+    svg.add(ring.replace('A190 30 0 0 1 190 0', 'A190 30 0 0 0 190 0') % (CYAN, "0.35", "5"))
     # one shooting star for a bit of life in the empty sky
-    lin(doc, "streak", [(0, "#ffffff", 0), (1, "#ffffff", 0.7)], x1=0, y1=0, x2=1, y2=0)
-    doc.add('<g transform="translate(455 118) rotate(152)"><rect x="0" y="-1" width="130" height="2" rx="1" '
+    svg.linear([(0, WHITE, 0), (1, WHITE, 0.7)], x2=1, y2=0, name="streak")
+    svg.add('<g transform="translate(455 118) rotate(152)"><rect x="0" y="-1" width="130" height="2" rx="1" '
             'fill="url(#streak)"/><circle cx="130" cy="0" r="2.2" fill="#ffffff" filter="url(#glow)"/></g>')
     # floor: a soft glow and perspective lines where the robot rolls in
-    rad(doc, "floorGlow", [(0, CYAN, 0.28), (0.5, CYAN, 0.08), (1, CYAN, 0)],
-        cx=298, cy=768, r=360, units="userSpaceOnUse", extra=' gradientTransform="translate(298 768) scale(1 0.32) translate(-298 -768)"')
-    doc.add('<rect x="0" y="600" width="1024" height="168" fill="url(#floorGlow)"/>')
+    svg.radial([(0, CYAN, 0.28), (0.5, CYAN, 0.08), (1, CYAN, 0)],
+               cx=298, cy=768, r=360, units="userSpaceOnUse",
+               transform="translate(298 768) scale(1 0.32) translate(-298 -768)", name="floorGlow")
+    svg.add('<rect x="0" y="600" width="1024" height="168" fill="url(#floorGlow)"/>')
     lines = []
     vx, vy = 298, 560
     for i in range(-9, 12):
@@ -805,15 +707,15 @@ def gen_mainpage_bg():
         lines.append("M%s %s L%s %s" % (f(vx + (bx - vx) * 0.55), f(vy + (768 - vy) * 0.55), f(bx), "768"))
     for yy in (676, 700, 730, 766):
         lines.append("M0 %s H1024" % f(yy))
-    lin(doc, "floorFade", [(0, "#ffffff", 0), (1, "#ffffff", 1)])
-    doc.define("floorMask", '<mask id="floorMask"><rect x="0" y="650" width="1024" height="118" fill="url(#floorFade)"/></mask>')
-    doc.add('<path d="%s" stroke="%s" stroke-opacity="0.1" stroke-width="1.2" mask="url(#floorMask)"/>'
+    svg.linear([(0, WHITE, 0), (1, WHITE, 1)], name="floorFade")
+    svg.define("floorMask", '<mask id="floorMask"><rect x="0" y="650" width="1024" height="118" fill="url(#floorFade)"/></mask>')
+    svg.add('<path d="%s" stroke="%s" stroke-opacity="0.1" stroke-width="1.2" mask="url(#floorMask)"/>'
             % (" ".join(lines), CYAN))
-    vignette(doc)
+    vignette(svg)
     # the menu's own card
-    panel(doc, 586, 150, 292, 386, r=26, opacity=0.8, shadow=False)
-    tray(doc, 672, 696, 120, 60)
-    return doc
+    panel(svg, 586, 150, 292, 386, r=26, opacity=0.8, shadow=False)
+    tray(svg, 672, 696, 120, 60)
+    return svg
 
 
 # ---------------------------------------------------------------------------
@@ -821,116 +723,116 @@ def gen_mainpage_bg():
 # ---------------------------------------------------------------------------
 
 def gen_logo_main():
-    doc = Doc(596, 584)
-    all_robot_paints(doc)
-    shadow_filter(doc, "robotShadow", 7, 8, 0.5)
-    doc.add('<g filter="url(#robotShadow)">%s</g>' % build_rover(doc, 298, 500, 1.18, wave=True, mood="smile"))
-    return doc
+    svg = Svg(596, 584, "logo_main")
+    all_robot_paints(svg)
+    svg.drop_shadow("robotShadow", 7, 8, 0.5)
+    svg.add('<g filter="url(#robotShadow)">%s</g>' % build_rover(svg, 298, 500, 1.18, pose="wave"))
+    return svg
 
 
-def stage(doc, w, h, key):
+def stage(svg, w, h, key):
     """A dark rounded stage with a spotlight cone and a floor pool of light."""
-    rad(doc, "stageBg", [(0, "#1e3a72"), (0.55, "#14284f"), (1, "#0a1430")], cx=0.5, cy=0.35, r=0.75)
-    lin(doc, "cone", [(0, "#e8f6ff", 0.2), (1, "#e8f6ff", 0.03)])
-    rad(doc, "pool", [(0, CYAN, 0.35), (0.6, CYAN, 0.1), (1, CYAN, 0)])
-    doc.define("stageClip", '<clipPath id="stageClip"><rect x="1" y="1" width="%s" height="%s" rx="24"/></clipPath>'
+    svg.radial([(0, "#1e3a72"), (0.55, "#14284f"), (1, "#0a1430")], cx=0.5, cy=0.35, r=0.75, name="stageBg")
+    svg.linear([(0, "#e8f6ff", 0.2), (1, "#e8f6ff", 0.03)], name="cone")
+    svg.radial([(0, CYAN, 0.35), (0.6, CYAN, 0.1), (1, CYAN, 0)], name="pool")
+    svg.define("stageClip", '<clipPath id="stageClip"><rect x="1" y="1" width="%s" height="%s" rx="24"/></clipPath>'
                % (f(w - 2), f(h - 2)))
-    doc.add('<g clip-path="url(#stageClip)">')
-    doc.add('<rect width="%s" height="%s" fill="url(#stageBg)"/>' % (f(w), f(h)))
+    svg.add('<g clip-path="url(#stageClip)">')
+    svg.add('<rect width="%s" height="%s" fill="url(#stageBg)"/>' % (f(w), f(h)))
     rng = random.Random(key)
-    doc.add(stars(rng, 26, (10, 10, w - 10, h * 0.6), [(w * 0.3, 0, w * 0.7, h)], 1.2))
-    doc.add('<path d="M%s 0 H%s L%s %s H%s Z" fill="url(#cone)" filter="url(#coneBlur)"/>'
+    svg.add(stars(rng, 26, (10, 10, w - 10, h * 0.6), [(w * 0.3, 0, w * 0.7, h)], 1.2))
+    svg.add('<path d="M%s 0 H%s L%s %s H%s Z" fill="url(#cone)" filter="url(#coneBlur)"/>'
             % (f(w * 0.42), f(w * 0.58), f(w * 0.86), f(h - 40), f(w * 0.14)))
-    doc.add('<ellipse cx="%s" cy="%s" rx="%s" ry="%s" fill="url(#pool)"/>' % (f(w / 2), f(h - 40), f(w * 0.42), f(28)))
-    lin(doc, "stageFloor", [(0, "#0a1430", 0), (1, "#050b1c", 0.6)])
-    doc.add('<rect x="0" y="%s" width="%s" height="%s" fill="url(#stageFloor)"/>' % (f(h - 60), f(w), f(60)))
-    doc.add('</g>')
-    doc.add('<rect x="1" y="1" width="%s" height="%s" rx="24" fill="none" stroke="%s" stroke-width="1.5"/>'
+    svg.add('<ellipse cx="%s" cy="%s" rx="%s" ry="%s" fill="url(#pool)"/>' % (f(w / 2), f(h - 40), f(w * 0.42), f(28)))
+    svg.linear([(0, "#0a1430", 0), (1, "#050b1c", 0.6)], name="stageFloor")
+    svg.add('<rect x="0" y="%s" width="%s" height="%s" fill="url(#stageFloor)"/>' % (f(h - 60), f(w), f(60)))
+    svg.add('</g>')
+    svg.add('<rect x="1" y="1" width="%s" height="%s" rx="24" fill="none" stroke="%s" stroke-width="1.5"/>'
             % (f(w - 2), f(h - 2), PANEL_RIM))
 
 
 def gen_pim(kind):
-    doc = Doc(380, 340)
-    all_robot_paints(doc)
-    blur_filter(doc, "coneBlur", 6)
-    shadow_filter(doc, "robotShadow", 5, 5, 0.5)
-    stage(doc, 380, 340, {"A": 1, "B": 2, "C": 3}[kind])
-    doc.add('<g clip-path="url(#stageClip)"><g filter="url(#robotShadow)">')
+    svg = Svg(380, 340, f"pim-{kind}")
+    all_robot_paints(svg)
+    svg.soft_blur("coneBlur", 6)
+    svg.drop_shadow("robotShadow", 5, 5, 0.5)
+    stage(svg, 380, 340, {"A": 1, "B": 2, "C": 3}[kind])
+    svg.add('<g clip-path="url(#stageClip)"><g filter="url(#robotShadow)">')
     if kind == "A":
-        doc.add(build_rover(doc, 190, 304, 0.72))
+        svg.add(build_rover(svg, 190, 304, 0.72))
     elif kind == "B":
-        doc.add(build_walker(doc, 190, 310, 0.57))
+        svg.add(build_walker(svg, 190, 310, 0.57))
     else:
-        doc.add(build_tank(doc, 175, 306, 0.66, beam=190))
-    doc.add('</g></g>')
-    return doc
+        svg.add(build_tank(svg, 175, 306, 0.66, beam=190))
+    svg.add('</g></g>')
+    return svg
 
 
-def robot_portrait(doc, kind, cx, gy, s):
+def robot_portrait(svg, kind, cx, gy, s):
     if kind == 1:
-        return build_rover(doc, cx, gy, s * 0.86)
+        return build_rover(svg, cx, gy, s * 0.86)
     if kind == 2:
-        return build_walker(doc, cx, gy, s * 0.78)
-    return build_tank(doc, cx, gy, s * 0.92, beam=90)
+        return build_walker(svg, cx, gy, s * 0.78)
+    return build_tank(svg, cx, gy, s * 0.92, beam=90)
 
 
 TILE_LOOKS = {
     # fill top, fill bottom, rim, rim width
-    "normal": ("#2d4a7a", "#223a63", "#3d5d93", 1.2),
-    "enter": ("#3f6fb5", "#2f5596", CYAN, 2),
-    "selected": ("#ff9a2e", "#e06d00", "#ffc078", 2),
+    "normal": (SLATE_TOP, SLATE_BOTTOM, "#3d5d93", 1.2),
+    "enter": (FOCUS_TOP, FOCUS_BOTTOM, CYAN, 2),
+    "selected": (LIT_TOP, LIT_BOTTOM, "#ffc078", 2),
 }
 
 
 def gen_lazer(kind, look):
-    doc = Doc(105, 105)
-    all_robot_paints(doc)
+    svg = Svg(105, 105, f"Lazer_{look}_{kind}")
+    all_robot_paints(svg)
     top, bottom, rim, rw = TILE_LOOKS[look]
-    lin(doc, "tile", [(0, top), (1, bottom)])
-    shadow_filter(doc, "tileShadow", 2.5, 2.5, 0.5)
+    svg.linear([(0, top), (1, bottom)], name="tile")
+    svg.drop_shadow("tileShadow", 2.5, 2.5, 0.5)
     if look == "enter":
-        doc.add('<rect x="3" y="3" width="99" height="99" rx="20" fill="none" stroke="%s" stroke-width="5" '
+        svg.add('<rect x="3" y="3" width="99" height="99" rx="20" fill="none" stroke="%s" stroke-width="5" '
                 'opacity="0.55" filter="url(#tileGlow)"/>' % CYAN)
-        blur_filter(doc, "tileGlow", 2)
+        svg.soft_blur("tileGlow", 2)
     if look == "selected":
-        inset_filter(doc, "pressed", 3, 2.5, 0.6)
-        doc.add('<rect x="6" y="7" width="93" height="92" rx="18" fill="url(#tile)" stroke="%s" stroke-width="%s" '
+        svg.inset("pressed", 3, 2.5, 0.6)
+        svg.add('<rect x="6" y="7" width="93" height="92" rx="18" fill="url(#tile)" stroke="%s" stroke-width="%s" '
                 'filter="url(#pressed)"/>' % (rim, f(rw)))
     else:
-        doc.add('<rect x="6" y="5" width="93" height="92" rx="18" fill="url(#tile)" stroke="%s" stroke-width="%s" '
+        svg.add('<rect x="6" y="5" width="93" height="92" rx="18" fill="url(#tile)" stroke="%s" stroke-width="%s" '
                 'filter="url(#tileShadow)"/>' % (rim, f(rw)))
-        doc.add('<path d="M22 8 H83 Q96 8 96 20" fill="none" stroke="#ffffff" stroke-opacity="0.28" stroke-width="2" '
+        svg.add('<path d="M22 8 H83 Q96 8 96 20" fill="none" stroke="#ffffff" stroke-opacity="0.28" stroke-width="2" '
                 'stroke-linecap="round"/>')
     # little stage inside the tile
     dy = 2 if look == "selected" else 0
-    rad(doc, "miniStage", [(0, "#1e3a72"), (1, "#0b1632")], cx=0.5, cy=0.3, r=0.8)
-    doc.add('<rect x="13" y="%s" width="79" height="78" rx="13" fill="url(#miniStage)" stroke="#0a1228" '
-            'stroke-width="1"/>' % f(12 + dy))
-    doc.define("miniClip", '<clipPath id="miniClip"><rect x="13" y="%s" width="79" height="78" rx="13"/></clipPath>'
+    svg.radial([(0, "#1e3a72"), (1, "#0b1632")], cx=0.5, cy=0.3, r=0.8, name="miniStage")
+    svg.add('<rect x="13" y="%s" width="79" height="78" rx="13" fill="url(#miniStage)" stroke="%s" '
+            'stroke-width="1"/>' % (f(12 + dy), WELL_RIM))
+    svg.define("miniClip", '<clipPath id="miniClip"><rect x="13" y="%s" width="79" height="78" rx="13"/></clipPath>'
                % f(12 + dy))
-    rad(doc, "miniPool", [(0, CYAN, 0.4), (1, CYAN, 0)])
-    doc.add('<g clip-path="url(#miniClip)">')
-    doc.add('<ellipse cx="52.5" cy="%s" rx="34" ry="7" fill="url(#miniPool)"/>' % f(84 + dy))
-    doc.add(robot_portrait(doc, kind, 52.5 if kind != 3 else 50, 86 + dy, 0.2))
-    doc.add('</g>')
+    svg.radial([(0, CYAN, 0.4), (1, CYAN, 0)], name="miniPool")
+    svg.add('<g clip-path="url(#miniClip)">')
+    svg.add('<ellipse cx="52.5" cy="%s" rx="34" ry="7" fill="url(#miniPool)"/>' % f(84 + dy))
+    svg.add(robot_portrait(svg, kind, 52.5 if kind != 3 else 50, 86 + dy, 0.2))
+    svg.add('</g>')
     # number badge
     bx, by = 84, 86 + dy
-    badge_fill = ORANGE if look != "selected" else "#ffffff"
-    badge_ink = "#ffffff" if look != "selected" else ORANGE_DARK
-    doc.add('<circle cx="%s" cy="%s" r="12" fill="%s" stroke="%s" stroke-width="2" filter="url(#tileShadow)"/>'
-            % (f(bx), f(by), badge_fill, "#0c1730" if look != "selected" else ORANGE_DARK))
-    doc.add(digit(kind, bx, by, 13, badge_ink, 2.6))
-    return doc
+    badge_fill = ORANGE if look != "selected" else WHITE
+    badge_ink = WHITE if look != "selected" else ORANGE_DARK
+    svg.add('<circle cx="%s" cy="%s" r="12" fill="%s" stroke="%s" stroke-width="2" filter="url(#tileShadow)"/>'
+            % (f(bx), f(by), badge_fill, NAVY_DEEP if look != "selected" else ORANGE_DARK))
+    svg.add(digit(kind, bx, by, 13, badge_ink, 2.6))
+    return svg
 
 
 def gen_confirmation():
-    doc = Doc(1024, 768)
-    background_common_parts(doc)
-    sky(doc, 700, 380, 620)
+    svg = Svg(1024, 768, "Pim_confirmation")
+    background_common_parts(svg)
+    sky(svg, 700, 380, 620)
     rng = random.Random(77)
     bubble = (268, 280, 452, 420)
     title = (480, 84, 770, 165)
-    doc.add(stars(rng, 70, (0, 0, 1024, 768), [bubble, title, (520, 170, 980, 768)]))
+    svg.add(stars(rng, 70, (0, 0, 1024, 768), [bubble, title, (520, 170, 980, 768)]))
     # rays of light behind the robot
     rays = []
     cx, cy = 720, 380
@@ -939,70 +841,35 @@ def gen_confirmation():
         a1 = a0 + 0.16
         rays.append("M%s %s L%s %s L%s %s Z" % (f(cx), f(cy), f(cx + math.cos(a0) * 700), f(cy + math.sin(a0) * 700),
                                                 f(cx + math.cos(a1) * 700), f(cy + math.sin(a1) * 700)))
-    rad(doc, "rayFade", [(0, "#ffffff", 0.09), (0.6, "#ffffff", 0.03), (1, "#ffffff", 0)],
-        cx=cx, cy=cy, r=560, units="userSpaceOnUse")
-    doc.add('<path d="%s" fill="url(#rayFade)"/>' % " ".join(rays))
-    doc.add('<circle cx="720" cy="420" r="240" fill="%s" opacity="0.18" filter="url(#haloBlur)"/>' % CYAN)
+    svg.radial([(0, WHITE, 0.09), (0.6, WHITE, 0.03), (1, WHITE, 0)],
+               cx=cx, cy=cy, r=560, units="userSpaceOnUse", name="rayFade")
+    svg.add('<path d="%s" fill="url(#rayFade)"/>' % " ".join(rays))
+    svg.add('<circle cx="720" cy="420" r="240" fill="%s" opacity="0.18" filter="url(#haloBlur)"/>' % CYAN)
     # floor glow
-    rad(doc, "floorGlow", [(0, CYAN, 0.3), (0.6, CYAN, 0.08), (1, CYAN, 0)])
-    doc.add('<ellipse cx="720" cy="740" rx="330" ry="56" fill="url(#floorGlow)"/>')
-    vignette(doc)
+    svg.radial([(0, CYAN, 0.3), (0.6, CYAN, 0.08), (1, CYAN, 0)], name="floorGlow")
+    svg.add('<ellipse cx="720" cy="740" rx="330" ry="56" fill="url(#floorGlow)"/>')
+    vignette(svg)
     # balloons on the left
     for bx, by, c, c2 in ((92, 250, ORANGE, ORANGE_LIGHT), (178, 190, CYAN, CYAN_GLOW), (150, 340, GREEN, "#8ff0bb")):
-        gid = doc.uid("balloon")
-        rad(doc, gid, [(0, "#ffffff", 0.9), (0.25, c2), (1, c)], cx=0.38, cy=0.3, r=0.75)
-        doc.add('<path d="M%s %s Q%s %s %s %s" fill="none" stroke="#cfd8e6" stroke-opacity="0.6" stroke-width="1.5"/>'
+        gid = svg.uid("balloon")
+        svg.radial([(0, WHITE, 0.9), (0.25, c2), (1, c)], cx=0.38, cy=0.3, r=0.75, name=gid)
+        svg.add('<path d="M%s %s Q%s %s %s %s" fill="none" stroke="#cfd8e6" stroke-opacity="0.6" stroke-width="1.5"/>'
                 % (f(bx), f(by + 58), f(bx - 22), f(by + 150), f(bx + 6), f(by + 260)))
-        doc.add('<ellipse cx="%s" cy="%s" rx="42" ry="52" fill="url(#%s)" filter="url(#robotShadow)"/>' % (f(bx), f(by), gid))
-        doc.add('<path d="M%s %s l-6 9 h12 z" fill="%s"/>' % (f(bx), f(by + 50), c))
+        svg.add('<ellipse cx="%s" cy="%s" rx="42" ry="52" fill="url(#%s)" filter="url(#robotShadow)"/>' % (f(bx), f(by), gid))
+        svg.add('<path d="M%s %s l-6 9 h12 z" fill="%s"/>' % (f(bx), f(by + 50), c))
     # the robot, arms up, bell ringing
-    s = 1.05
-    doc.add('<g filter="url(#robotShadow)">')
-    doc.add(celebrating_robot(doc, 720, 742, s))
-    doc.add('</g>')
-    doc.add(confetti(rng, [(0, 0, 1024, 768)], 135,
+    svg.add('<g filter="url(#robotShadow)">', build_rover(svg, 720, 742, 1.05, pose="cheer", mood="joy"), '</g>')
+    svg.add(confetti(rng, [(0, 0, 1024, 768)], 135,
                      [bubble, title, (560, 190, 880, 720), (440, 380, 600, 560), (452, 290, 520, 345), (40, 150, 230, 420), (0, 690, 1024, 768)]))
     # speech bubble for the message, tail toward the robot
-    lin(doc, "bubbleFill", [(0, "#132a55"), (1, "#0d1d3e")])
-    shadow_filter(doc, "bubbleShadow", 8, 6, 0.55)
+    svg.linear([(0, "#132a55"), (1, "#0d1d3e")], name="bubbleFill")
+    svg.drop_shadow("bubbleShadow", 8, 6, 0.55)
     x0, y0, x1, y1 = bubble
-    r = 22
-    d = ("M%s %s H%s Q%s %s %s %s V%s L%s %s L%s %s V%s Q%s %s %s %s H%s Q%s %s %s %s V%s Q%s %s %s %s Z" % (
-        f(x0 + r), f(y0), f(x1 - r), f(x1), f(y0), f(x1), f(y0 + r),
-        f(y0 + 34), f(x1 + 60), f(y0 + 30), f(x1), f(y0 + 60),
-        f(y1 - r), f(x1), f(y1), f(x1 - r), f(y1),
-        f(x0 + r), f(x0), f(y1), f(x0), f(y1 - r),
-        f(y0 + r), f(x0), f(y0), f(x0 + r), f(y0)))
-    doc.add('<path d="%s" fill="url(#bubbleFill)" stroke="%s" stroke-width="2.5" stroke-linejoin="round" '
+    d = tailed_card(x0, y0, x1 - x0, y1 - y0, 22, "right", y0 + 34, y0 + 60, (x1 + 60, y0 + 30))
+    svg.add('<path d="%s" fill="url(#bubbleFill)" stroke="%s" stroke-width="2.5" stroke-linejoin="round" '
             'filter="url(#bubbleShadow)"/>' % (d, ORANGE))
-    header_rule(doc, 490, 940, 170)
-    return doc
-
-
-def celebrating_robot(doc, cx, gy, s):
-    """The rover with both arms up, one ringing a bell."""
-    wr = 58 * s
-    wy = gy - wr
-    tw, th = 190 * s, 150 * s
-    ttop = wy - th + 18 * s
-    out = [floor_shadow(cx, gy - 2 * s, 150 * s, 14 * s)]
-    out.append('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="url(#jointAcross)" stroke="#4f5a6d" '
-               'stroke-width="%s"/>' % (f(cx - 110 * s), f(wy - 12 * s), f(220 * s), f(24 * s), f(10 * s), f(2 * s)))
-    # right arm (viewer's right) up, waving
-    out.append(arm(doc, cx + tw / 2 - 6 * s, ttop + 28 * s, cx + tw / 2 + 64 * s, ttop - 16 * s,
-                   cx + tw / 2 + 84 * s, ttop - 96 * s, s, 22 * s))
-    # left arm up holding the bell
-    lhx, lhy = cx - tw / 2 - 86 * s, ttop - 100 * s
-    out.append(arm(doc, cx - tw / 2 + 6 * s, ttop + 28 * s, cx - tw / 2 - 64 * s, ttop - 14 * s,
-                   lhx, lhy, s, 22 * s))
-    out.append(hand_bell(lhx, lhy, 1.05 * s, ang=30))
-    out.append(hand(lhx, lhy, 22 * s, -120, s))
-    out.append(torso(doc, cx, ttop, tw, th, s))
-    out.append(wheel(cx - 92 * s, wy, wr, s))
-    out.append(wheel(cx + 92 * s, wy, wr, s))
-    out.append(neck(cx, ttop - 18 * s, s, 24))
-    out.append(head(doc, cx, ttop - 87 * s, s, mood="joy", tilt=5, antenna_lean=-10))
-    return "".join(out)
+    header_rule(svg, 490, 940, 170)
+    return svg
 
 
 # ---------------------------------------------------------------------------
@@ -1011,16 +878,16 @@ def celebrating_robot(doc, cx, gy, s):
 
 MENU_LOOKS = {
     # badge top, badge bottom, rim colour, rim width, led colour, led on
-    "normal": ("#2d4a7a", "#223a63", "#3d5d93", 1.2, JOINT, False),
-    "focused": ("#3f6fb5", "#2f5596", CYAN, 2, CYAN, True),
-    "selected": ("#ff9a2e", "#e06d00", ORANGE_LIGHT, 2, ORANGE, True),
+    "normal": (SLATE_TOP, SLATE_BOTTOM, "#3d5d93", 1.2, JOINT, False),
+    "focused": (FOCUS_TOP, FOCUS_BOTTOM, CYAN, 2, CYAN, True),
+    "selected": (LIT_TOP, LIT_BOTTOM, ORANGE_LIGHT, 2, ORANGE, True),
 }
 
 
 def icon_bricks(cx, cy):
     out = []
-    layers = [(-6, 18, SHELL, SHELL_SHADE, JOINT), (6, 1, CYAN, "#1d9cc4", "#ffffff"),
-             (-2, -16, ORANGE, ORANGE_DARK, "#ffffff")]
+    layers = [(-6, 18, SHELL, SHELL_SHADE, JOINT), (6, 1, CYAN, "#1d9cc4", WHITE),
+             (-2, -16, ORANGE, ORANGE_DARK, WHITE)]
     for dx, dy, c1, c2, stud in layers:
         x, y = cx + dx - 26, cy + dy - 9
         out.append('<path d="M%s %s h10 v-3 h10 v3 h22 a5 5 0 0 1 5 5 v10 a5 5 0 0 1 -5 5 h-22 v3 h-10 v-3 h-10 '
@@ -1090,83 +957,62 @@ def icon_usb(cx, cy):
 
 
 def gen_menu_tile(kind, look):
-    doc = Doc(250, 93)
-    robot_paints(doc)
+    svg = Svg(250, 93, f"{kind}_{look}_menus")
+    robot_paints(svg)
     top, bottom, rim, rw, led, led_on = MENU_LOOKS[look]
-    lin(doc, "badge", [(0, top), (1, bottom)])
+    svg.linear([(0, top), (1, bottom)], name="badge")
     if look == "selected":
-        lin(doc, "body", [(0, "#3a2412"), (1, "#1f150e")])
+        svg.linear([(0, "#3a2412"), (1, "#1f150e")], name="body")
     else:
-        lin(doc, "body", [(0, "#16294f"), (1, "#0e1b38")])
-    shadow_filter(doc, "tileShadow", 3, 3, 0.55)
+        svg.linear([(0, "#16294f"), (1, "#0e1b38")], name="body")
+    svg.drop_shadow("tileShadow", 3, 3, 0.55)
     dy = 1.5 if look == "selected" else 0
     if look == "focused":
-        blur_filter(doc, "rimGlow", 3)
-        doc.add('<rect x="4" y="4" width="242" height="84" rx="22" fill="none" stroke="%s" stroke-width="4" '
+        svg.soft_blur("rimGlow", 3)
+        svg.add('<rect x="4" y="4" width="242" height="84" rx="22" fill="none" stroke="%s" stroke-width="4" '
                 'opacity="0.7" filter="url(#rimGlow)"/>' % CYAN)
     body_filter = "tileShadow"
     if look == "selected":
-        inset_filter(doc, "pressed", 3, 2.5, 0.75)
+        svg.inset("pressed", 3, 2.5, 0.75)
         body_filter = "pressed"
-    doc.add('<rect x="6" y="%s" width="238" height="80" rx="20" fill="url(#body)" stroke="%s" stroke-width="%s" '
+    svg.add('<rect x="6" y="%s" width="238" height="80" rx="20" fill="url(#body)" stroke="%s" stroke-width="%s" '
             'filter="url(#%s)"/>' % (f(5 + dy), rim, f(rw), body_filter))
     if look != "selected":
-        doc.add('<path d="M30 %s H222" stroke="#ffffff" stroke-opacity="0.12" stroke-width="1.5" stroke-linecap="round"/>'
+        svg.add('<path d="M30 %s H222" stroke="#ffffff" stroke-opacity="0.12" stroke-width="1.5" stroke-linecap="round"/>'
                 % f(8 + dy))
     # the icon's round badge
-    doc.add('<circle cx="46" cy="%s" r="34" fill="url(#badge)" stroke="%s" stroke-width="%s" filter="url(#tileShadow)"/>'
+    svg.add('<circle cx="46" cy="%s" r="34" fill="url(#badge)" stroke="%s" stroke-width="%s" filter="url(#tileShadow)"/>'
             % (f(45.5 + dy), rim if look != "normal" else "#4a6ca6", f(rw)))
-    rad(doc, "well", [(0, "#22407a"), (0.7, "#14284f"), (1, "#0c1834")], cx=0.45, cy=0.35, r=0.7)
-    doc.add('<circle cx="46" cy="%s" r="28" fill="url(#well)" stroke="#0a1430" stroke-width="1"/>' % f(45.5 + dy))
-    doc.add('<path d="M16 %s A31 31 0 0 1 56 %s" fill="none" stroke="#ffffff" stroke-opacity="0.3" stroke-width="2" '
+    svg.radial([(0, "#22407a"), (0.7, "#14284f"), (1, "#0c1834")], cx=0.45, cy=0.35, r=0.7, name="well")
+    svg.add('<circle cx="46" cy="%s" r="28" fill="url(#well)" stroke="#0a1430" stroke-width="1"/>' % f(45.5 + dy))
+    svg.add('<path d="M16 %s A31 31 0 0 1 56 %s" fill="none" stroke="#ffffff" stroke-opacity="0.3" stroke-width="2" '
             'stroke-linecap="round"/>' % (f(36 + dy), f(16 + dy)))
     icon = {"command": icon_bricks, "clock": icon_clock, "usb": icon_usb}[kind](46, 45.5 + dy)
     if kind == "command":
         icon = '<g transform="translate(46 %s) scale(0.74) translate(-46 %s)">%s</g>' % (f(45.5 + dy), f(-45.5 - dy), icon)
-    doc.add('<g filter="url(#iconShadow)">%s</g>' % icon)
-    shadow_filter(doc, "iconShadow", 1.5, 1.5, 0.5)
+    svg.add('<g filter="url(#iconShadow)">%s</g>' % icon)
+    svg.drop_shadow("iconShadow", 1.5, 1.5, 0.5)
     # a faint accent line above the caption, and three status lights at the right
     accent = {"normal": PANEL_RIM, "focused": CYAN, "selected": ORANGE}[look]
-    doc.add('<rect x="92" y="%s" width="40" height="3" rx="1.5" fill="%s" opacity="0.9"/>' % (f(40 + dy), accent))
+    svg.add('<rect x="92" y="%s" width="40" height="3" rx="1.5" fill="%s" opacity="0.9"/>' % (f(40 + dy), accent))
     for i in range(3):
         x = 206 + i * 11
         on = led_on and i == 2 or (led_on and look == "selected")
-        doc.add('<circle cx="%s" cy="%s" r="3" fill="%s"%s/>'
+        svg.add('<circle cx="%s" cy="%s" r="3" fill="%s"%s/>'
                 % (f(x), f(24 + dy), led if on else "#2e3d5c", ' filter="url(#glow)"' if on else ""))
-    return doc
+    return svg
 
 
 # ---------------------------------------------------------------------------
 
-def outputs():
-    yield "logo_main", gen_logo_main()
-    for k in "ABC":
-        yield "pim-" + k, gen_pim(k)
-    yield "Pim_confirmation", gen_confirmation()
-    yield "mainpage_bg", gen_mainpage_bg()
-    yield "common_bg", gen_common_bg()
-    yield "scenario_bg", gen_scenario_bg()
-    for kind in ("command", "clock", "usb"):
-        for look in ("normal", "focused", "selected"):
-            yield "%s_%s_menus" % (kind, look), gen_menu_tile(kind, look)
-    for look, tag in (("normal", "normal"), ("enter", "enter"), ("selected", "selected")):
-        for n in (1, 2, 3):
-            yield "Lazer_%s_%d" % (tag, n), gen_lazer(n, look)
-
-
-def main(argv):
-    only = set(argv[1:])
-    os.makedirs(OUT_DIR, exist_ok=True)
-    count = 0
-    for name, doc in outputs():
-        if only and name not in only:
-            continue
-        with open(os.path.join(OUT_DIR, name + ".svg"), "w", encoding="utf-8") as fh:
-            fh.write(doc.text())
-        count += 1
-    print("wrote %d svg files to %s" % (count, os.path.normpath(OUT_DIR)))
-    return 0
+def pictures():
+    pics = [gen_logo_main(), *(gen_pim(k) for k in "ABC"), gen_confirmation(), gen_mainpage_bg(),
+            gen_common_bg(), gen_scenario_bg()]
+    pics += [gen_menu_tile(kind, look) for kind in ("command", "clock", "usb")
+             for look in ("normal", "focused", "selected")]
+    pics += [gen_lazer(n, look) for look in ("normal", "enter", "selected") for n in (1, 2, 3)]
+    return {svg.title: svg for svg in pics}
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv))
+    write_all(pictures())

@@ -18,143 +18,22 @@ Families and their templates:
 """
 
 import math
-import os
 
-ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-OUT_DIR = os.path.join(ROOT, "svg")
-MANIFEST = os.path.join(ROOT, "pictures.tsv")
-
-# Palette
-NAVY_DEEP = "#0c1730"
-ORANGE = "#ff8000"
-ORANGE_LIGHT = "#ffa640"
-ORANGE_DARK = "#c85f00"
-CYAN = "#36d6ff"
-CORAL = "#ff5a5f"
-WHITE = "#ffffff"
+from svgkit import (BLACK, CORAL, CYAN, FOCUS_BOTTOM, FOCUS_TOP, LIT_BOTTOM, LIT_TOP, NAVY_DEEP,
+                    ORANGE, ORANGE_DARK, ORANGE_LIGHT, ORANGE_PALE, SLATE_BOTTOM, SLATE_RIM,
+                    SLATE_TOP, WHITE, Svg, circle_path, el, fmt, group, pel, rrect_path, write_all)
 
 LOOKS = {
     # slate: the resting look of every button drawn here
-    "slate": dict(top="#2d4a7a", bottom="#223a63", rim="#15284a", rim_w=1, gloss=0.12,
+    "slate": dict(top=SLATE_TOP, bottom=SLATE_BOTTOM, rim=SLATE_RIM, rim_w=1, gloss=0.12,
                   highlight=0.32, glow=None, ink="#dfe7f2"),
     # focus: brighter blue with the cyan rim glow
-    "focus": dict(top="#3f6fb5", bottom="#2f5596", rim=CYAN, rim_w=2, gloss=0.14,
+    "focus": dict(top=FOCUS_TOP, bottom=FOCUS_BOTTOM, rim=CYAN, rim_w=2, gloss=0.14,
                   highlight=0.38, glow=CYAN, ink=WHITE),
     # lit: the current / hovered tab
-    "lit": dict(top="#ff9a2e", bottom="#e06d00", rim="#ffc27a", rim_w=1.5, gloss=0.18,
+    "lit": dict(top=LIT_TOP, bottom=LIT_BOTTOM, rim="#ffc27a", rim_w=1.5, gloss=0.18,
                 highlight=0.45, glow=ORANGE_LIGHT, ink=WHITE),
 }
-
-
-# --- SVG writing --------------------------------------------------------------------------------
-
-def fmt(v):
-    if isinstance(v, str):
-        return v
-    s = f"{v:.3f}".rstrip("0").rstrip(".")
-    return "0" if s in ("-0", "") else s
-
-
-def attrs(**kw):
-    out = []
-    for k, v in kw.items():
-        if v is None:
-            continue
-        out.append(f'{k.rstrip("_").replace("_", "-")}="{fmt(v)}"')
-    return " ".join(out)
-
-
-def el(tag, **kw):
-    return f"<{tag} {attrs(**kw)}/>"
-
-
-def pel(d, **kw):
-    return f'<path d="{d}" {attrs(**kw)}/>'
-
-
-def group(elements, **kw):
-    return f"<g {attrs(**kw)}>" + "".join(elements) + "</g>"
-
-
-class Svg:
-    """One picture: width, height and viewBox equal its pixel size; ids are unique per file."""
-
-    def __init__(self, width, height, title):
-        self.w, self.h, self.title = width, height, title
-        self.defs, self.body, self._n = [], [], 0
-
-    def uid(self, prefix):
-        self._n += 1
-        return f"{prefix}{self._n}"
-
-    def _stops(self, stops):
-        out = []
-        for st in stops:
-            op = st[2] if len(st) > 2 else 1
-            out.append(f'<stop offset="{fmt(st[0])}" stop-color="{st[1]}"'
-                       + (f' stop-opacity="{fmt(op)}"' if op != 1 else "") + "/>")
-        return "".join(out)
-
-    def linear(self, stops, x1=0, y1=0, x2=0, y2=1, units=None):
-        gid = self.uid("g")
-        u = f' gradientUnits="{units}"' if units else ""
-        self.defs.append(f'<linearGradient id="{gid}" x1="{fmt(x1)}" y1="{fmt(y1)}" x2="{fmt(x2)}" '
-                         f'y2="{fmt(y2)}"{u}>{self._stops(stops)}</linearGradient>')
-        return f"url(#{gid})"
-
-    def radial(self, stops, cx=0.5, cy=0.5, r=0.5, fx=None, fy=None, units=None):
-        gid = self.uid("r")
-        extra = f' fx="{fmt(fx)}" fy="{fmt(fy)}"' if fx is not None else ""
-        u = f' gradientUnits="{units}"' if units else ""
-        self.defs.append(f'<radialGradient id="{gid}" cx="{fmt(cx)}" cy="{fmt(cy)}" r="{fmt(r)}"'
-                         f'{extra}{u}>{self._stops(stops)}</radialGradient>')
-        return f"url(#{gid})"
-
-    def blur(self, sd):
-        """Blur over the whole canvas, so nothing is cut at a shape's bounding box."""
-        fid = self.uid("f")
-        self.defs.append(f'<filter id="{fid}" filterUnits="userSpaceOnUse" x="-8" y="-8" '
-                         f'width="{self.w + 16}" height="{self.h + 16}" '
-                         f'color-interpolation-filters="sRGB"><feGaussianBlur '
-                         f'stdDeviation="{fmt(sd)}"/></filter>')
-        return f"url(#{fid})"
-
-    def clip(self, d):
-        cid = self.uid("c")
-        self.defs.append(f'<clipPath id="{cid}"><path d="{d}"/></clipPath>')
-        return f"url(#{cid})"
-
-    def add(self, element):
-        self.body.append(element)
-
-    def path(self, d, **kw):
-        self.add(pel(d, **kw))
-
-    def text(self):
-        lines = [f'<svg xmlns="http://www.w3.org/2000/svg" version="1.1" width="{self.w}" '
-                 f'height="{self.h}" viewBox="0 0 {self.w} {self.h}">',
-                 f"<title>{self.title}</title>"]
-        if self.defs:
-            lines.append("<defs>")
-            lines.extend("  " + d for d in self.defs)
-            lines.append("</defs>")
-        lines.extend(self.body)
-        lines.append("</svg>")
-        return "\n".join(lines) + "\n"
-
-
-def rrect_path(x, y, w, h, r):
-    f = fmt
-    return (f"M{f(x + r)},{f(y)} H{f(x + w - r)} A{f(r)},{f(r)} 0 0 1 {f(x + w)},{f(y + r)} "
-            f"V{f(y + h - r)} A{f(r)},{f(r)} 0 0 1 {f(x + w - r)},{f(y + h)} H{f(x + r)} "
-            f"A{f(r)},{f(r)} 0 0 1 {f(x)},{f(y + h - r)} V{f(y + r)} "
-            f"A{f(r)},{f(r)} 0 0 1 {f(x + r)},{f(y)} Z")
-
-
-def circle_path(cx, cy, r):
-    f = fmt
-    return (f"M{f(cx - r)},{f(cy)} A{f(r)},{f(r)} 0 1 1 {f(cx + r)},{f(cy)} "
-            f"A{f(r)},{f(r)} 0 1 1 {f(cx - r)},{f(cy)} Z")
 
 
 # --- the robot's track --------------------------------------------------------------------------
@@ -400,7 +279,7 @@ def stop_piece():
     pts = [(cx + r * math.cos(math.radians(22.5 + 45 * k)),
             cy + r * math.sin(math.radians(22.5 + 45 * k))) for k in range(8)]
     octa = "M" + " L".join(f"{fmt(x)},{fmt(y)}" for x, y in pts) + " Z"
-    svg.path(octa, fill="#000000", fill_opacity=0.5, filter=svg.blur(1.3), transform="translate(0,1.6)")
+    svg.shadow(octa, 0.5, 1.3, 1.6)
     svg.path(octa, fill=WHITE, stroke="#b8c2d0", stroke_width=0.8, stroke_linejoin="round")
     inner = [(cx + (r - 2.6) * math.cos(math.radians(22.5 + 45 * k)),
               cy + (r - 2.6) * math.sin(math.radians(22.5 + 45 * k))) for k in range(8)]
@@ -443,26 +322,25 @@ def circle_piece(name, clockwise):
     svg = Svg(33, 33, name)
     cx, cy = 16.5, 16.5
     ring, head = circling_arrow(cx, cy, 9.8, clockwise, 5.4, 11)
-    shadow = [pel(ring, fill="none", stroke="#000000", stroke_width=7.5),
-              pel(head, fill="#000000", stroke="#000000", stroke_width=1.5, stroke_linejoin="round")]
+    shadow = [pel(ring, fill="none", stroke=BLACK, stroke_width=7.5),
+              pel(head, fill=BLACK, stroke=BLACK, stroke_width=1.5, stroke_linejoin="round")]
     svg.add(group(shadow, opacity=0.45, filter=svg.blur(1.1), transform="translate(0,1.2)"))
     svg.path(ring, fill="none", stroke=ORANGE_DARK, stroke_width=7)
     svg.path(ring, fill="none", stroke=ORANGE, stroke_width=5)
     svg.path(ring, fill="none", stroke="#ffe3c2", stroke_opacity=0.9, stroke_width=1.1,
              stroke_dasharray="2.6 2.6")
     svg.path(head, fill=ORANGE, stroke=ORANGE_DARK, stroke_width=1.1, stroke_linejoin="round")
-    svg.add(el("circle", cx=cx, cy=cy, r=2.2, fill=svg.radial([(0, "#ffd9a8"), (1, ORANGE_DARK)])))
+    svg.add(el("circle", cx=cx, cy=cy, r=2.2, fill=svg.radial([(0, ORANGE_PALE), (1, ORANGE_DARK)])))
     return svg
 
 
 # --- shared button bodies -----------------------------------------------------------------------
 
-def body(svg, outline, look, bbox, shadow=0.5):
+def body(svg, outline, look, bbox):
     """A glossy body: soft drop shadow, gradient, top sheen, inner highlight, rim (and glow)."""
     lk = LOOKS[look]
     x, y, w, h = bbox
-    svg.path(outline, fill="#000000", fill_opacity=shadow, filter=svg.blur(1.3),
-             transform="translate(0,1.7)")
+    svg.shadow(outline, 0.5, 1.3, 1.7)
     if lk["glow"]:
         svg.path(outline, fill="none", stroke=lk["glow"], stroke_width=3.2, stroke_opacity=0.8,
                  filter=svg.blur(1.2))
@@ -583,7 +461,7 @@ def tab_icon(name, glyph, lit):
 
     glyph_shadow(svg, draw(NAVY_DEEP, NAVY_DEEP), opacity=0.45 if lit else 0.6)
     els = draw(lk["ink"], WHITE if lit else CYAN)
-    svg.body.extend(els)
+    svg.add(*els)
     return svg
 
 
@@ -598,7 +476,7 @@ def brick_body(svg, look):
         studs.append(rrect_path(sx - 7, 4.5, 14, 9, 3))
     outline = rrect_path(x, y, w, h, r)
     # shadows
-    svg.add(group([pel(outline), pel(studs[0]), pel(studs[1])], fill="#000000", fill_opacity=0.5,
+    svg.add(group([pel(outline), pel(studs[0]), pel(studs[1])], fill=BLACK, fill_opacity=0.5,
                   filter=svg.blur(1.4), transform="translate(0,1.8)"))
     if lk["glow"]:
         svg.add(group([pel(outline), pel(studs[0]), pel(studs[1])], fill="none", stroke=lk["glow"],
@@ -620,7 +498,7 @@ def brick_body(svg, look):
                                                     y1=y, y2=y + h, units="userSpaceOnUse"),
             stroke_width=2.4),
         # a darker foot so the brick stands on the page
-        el("rect", x=x, y=y + h - 5, width=w, height=5, fill="#000000", fill_opacity=0.16),
+        el("rect", x=x, y=y + h - 5, width=w, height=5, fill=BLACK, fill_opacity=0.16),
     ], clip_path=clip))
     svg.path(outline, fill="none", stroke=lk["rim"], stroke_width=lk["rim_w"])
     return lk
@@ -709,10 +587,10 @@ def small_circle(name, direction, focus):
     tf = f"translate({cx},{cy}) rotate({angle})"
     els = [pel(chevron, fill="none", stroke=lk["ink"], stroke_width=3.4, stroke_linecap="round",
                stroke_linejoin="round", transform=tf)]
-    glyph_shadow(svg, [pel(chevron, fill="none", stroke="#000000", stroke_width=3.4,
+    glyph_shadow(svg, [pel(chevron, fill="none", stroke=BLACK, stroke_width=3.4,
                            stroke_linecap="round", stroke_linejoin="round", transform=tf)],
                  dy=1.1, opacity=0.5)
-    svg.body.extend(els)
+    svg.add(*els)
     return svg
 
 
@@ -742,24 +620,11 @@ def volume_pill(name, plus):
     dark = [e.replace(f'"{ink}"', f'"{NAVY_DEEP}"').replace(f'"{ORANGE_LIGHT}"', f'"{NAVY_DEEP}"')
             for e in els + sign]
     glyph_shadow(svg, dark, opacity=0.6)
-    svg.body.extend(els + sign)
+    svg.add(*els, *sign)
     return svg
 
 
 # --- output ---------------------------------------------------------------------------------------
-
-def read_manifest(path):
-    out = {}
-    with open(path, encoding="utf-8") as f:
-        header = f.readline().rstrip("\n").split("\t")
-        col = {k: i for i, k in enumerate(header)}
-        for line in f:
-            cells = line.rstrip("\n").split("\t")
-            if len(cells) < len(header):
-                continue
-            out[cells[col["name"]]] = (int(cells[col["width"]]), int(cells[col["height"]]))
-    return out
-
 
 def pictures():
     pics = {}
@@ -784,19 +649,5 @@ def pictures():
     return pics
 
 
-def main():
-    manifest = read_manifest(MANIFEST) if os.path.exists(MANIFEST) else None
-    os.makedirs(OUT_DIR, exist_ok=True)
-    for name, svg in pictures().items():
-        if manifest is not None:
-            if name not in manifest:
-                raise SystemExit(f"{name}: not in the picture manifest")
-            if manifest[name] != (svg.w, svg.h):
-                raise SystemExit(f"{name}: drawn {svg.w}x{svg.h}, manifest {manifest[name]}")
-        with open(os.path.join(OUT_DIR, name + ".svg"), "w", encoding="utf-8") as f:
-            f.write(svg.text())
-        print(name)
-
-
 if __name__ == "__main__":
-    main()
+    write_all(pictures())
