@@ -67,6 +67,43 @@ void Frame_Control::InitInterWorking() {
     InitFrameRecord(&frmSound->frmFrameRec);
     InitFrameRecord(&frmScenario->frmFrameRec);
 
-    frmMainMenu->BtnProgram->InitButtonAction(Frame_MainMenu_ScenarioBtnAcion, this);
-    frmMainMenu->BtnAlarm->InitButtonAction(Frame_MainMenu_AlarmBtnAcion, this);
+    // The menu's two ways out are the root view's own: their context is this view as the host.
+    ScreenHost* host = this;
+    frmMainMenu->BtnProgram->InitButtonAction(Frame_MainMenu_ScenarioBtnAcion, host);
+    frmMainMenu->BtnAlarm->InitButtonAction(Frame_MainMenu_AlarmBtnAcion, host);
+    connect(&m_navigator, &ScreenNavigator::switched, this, &Frame_Control::ShowScreen);
+}
+
+void Frame_Control::Follow(Route route) {
+    m_navigator.follow(route);
+}
+
+NSViewS* Frame_Control::ScreenOf(ScreenId id) const {
+    switch (id) {
+    case ScreenId::MainMenu:
+        return frmMainMenu;
+    case ScreenId::Scenario:
+        return frmScenario;
+    case ScreenId::Alarm:
+        return frmAlarm;
+    case ScreenId::Movement:
+        return frmMovement;
+    case ScreenId::Sound:
+        return frmSound;
+    case ScreenId::Face:
+        return frmFace;
+    case ScreenId::Lazer:
+        return frmLazer;
+    }
+    return nullptr;
+}
+
+void Frame_Control::ShowScreen(ScreenId from, ScreenId to, bool trackingOn) {
+    // The alarm screen's Back leads to the screen that opened it.
+    if (to == ScreenId::Alarm) frmAlarm->frmPreframe = ScreenOf(from);
+    ScreenOf(from)->setHidden(true);
+    NSViewS* shown = ScreenOf(to);
+    shown->setHidden(false);
+    // Registrations take the rectangle on view, so the screen is shown first.
+    if (trackingOn) shown->ButtonTrackingOn();
 }

@@ -2,11 +2,13 @@
 
 #include "FRAMESRECORD.h"
 #include "NSViewS.h"
+#include "ScreenHost.h"
+#include "ScreenNavigator.h"
 
 // The window's content view: creates the seven screens once, stacks them in one place and
 // shows only the main menu. Screens are never created, moved or destroyed after this; they are
 // only hidden and shown.
-class Frame_Control : public NSViewS {
+class Frame_Control : public NSViewS, public ScreenHost {
     Q_OBJECT
 public:
     explicit Frame_Control(const NSRect& frame);
@@ -26,4 +28,14 @@ public:
     Frame_Alarm* frmAlarm = nullptr;
 
     static NSRect WindowFrame();
+
+    void Follow(Route route) override;
+    const ScreenNavigator& navigator() const { return m_navigator; }
+
+private:
+    // The one place where screens are switched.
+    void ShowScreen(ScreenId from, ScreenId to, bool trackingOn);
+    NSViewS* ScreenOf(ScreenId id) const;
+
+    ScreenNavigator m_navigator;
 };

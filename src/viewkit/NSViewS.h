@@ -31,6 +31,9 @@ public:
     // the application runs.
     void addTrackingRect(const QRect& rect, Button* owner, void* userData, bool assumeInside);
 
+    // A screen makes the hover registrations of its buttons when it is shown; other views have none.
+    virtual void ButtonTrackingOn() {}
+
     // Hiding a view takes the keyboard away from any field in it.
     void setVisible(bool visible) override;
 

@@ -52,15 +52,6 @@ private slots:
         }
     }
 
-    void mainMenuActionsRunWithTheRootViewAsContext() {
-        AppHarness app;
-        Frame_Control* root = app.root();
-        QVERIFY(root->frmMainMenu->BtnProgram->ButtonAction == &Frame_MainMenu_ScenarioBtnAcion);
-        QCOMPARE(root->frmMainMenu->BtnProgram->frmControl[0], static_cast<void*>(root));
-        QVERIFY(root->frmMainMenu->BtnAlarm->ButtonAction == &Frame_MainMenu_AlarmBtnAcion);
-        QCOMPARE(root->frmMainMenu->BtnAlarm->frmControl[0], static_cast<void*>(root));
-    }
-
     void nothingBehindTheMainMenuReactsAtStart() {
         AppHarness app;
         // A click anywhere on the fresh window leaves the main menu the one screen shown.

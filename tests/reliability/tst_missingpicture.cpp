@@ -20,7 +20,7 @@
 namespace {
 
 // Routes through the application, each passing the pictures of its row.
-enum Route { MenuAndBack, ListChoice, Confirmation, SoundChoices, LazerChoice };
+enum Walk { MenuAndBack, ListChoice, Confirmation, SoundChoices, LazerChoice };
 
 // Views that asked for the picture, whether or not it is there.
 QList<NSImageViewS*> ViewsAskingFor(const Frame_Control* root, const QString& name) {
@@ -72,7 +72,7 @@ bool ShowsPictureNamed(const NSImageViewS* v, const QString& name) {
     return v->imgDefault.name() == name;
 }
 
-void Run(AppHarness& app, Route route) {
+void Run(AppHarness& app, Walk route) {
     Frame_Control* root = app.root();
     Frame_MainMenu* menu = root->frmMainMenu;
     switch (route) {
@@ -174,7 +174,7 @@ private slots:
         const AppInvariants invariants(root);
         QVERIFY(app.waitForMainMenuReady());
 
-        Run(app, Route(route));
+        Run(app, Walk(route));
         if (QTest::currentTestFailed()) return;
         QCOMPARE(invariants.check(), QStringList());
 

@@ -5,6 +5,7 @@
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "NSLog.h"
+#include "ScreenHost.h"
 
 #include <QDateEdit>
 #include <QTimeEdit>
@@ -413,6 +414,10 @@ void Frame_Alarm::InitBackBtnToChooseInterWorking() {
     if (BtnBack) BtnBack->InitButtonAction(Frame_Alarm_BackToChooseBtnAction, this);
 }
 
+void Frame_Alarm::ButtonTrackingOn() {
+    RegisterHover({BtnQuestion, BtnBirthdayStatus, BtnWakeupStatus, BtnBack, BtnDone});
+}
+
 void Frame_Alarm::ChoosePageRefresh() {
     InitBackBtnToMainMenuInterWorking();
     Layout::SetCaption(BtnBirthdayStatus, {BirthdayStatusText(enableBirthday), NSColor::whiteColor(),
@@ -575,9 +580,7 @@ void Frame_Alarm_BackToMainMenuBtnAction(void* context, Button*) {
     if (!s) return;
     NSLog(QStringLiteral("BackToMainMenu"));
     // Without a screen to go back to, staying put beats leaving the window empty.
-    if (!s->frmPreframe) return;
-    s->frmPreframe->setHidden(false);
-    s->setHidden(true);
+    if (s->frmPreframe) ScreenHost::Follow(s, Route::AlarmBack);
 }
 
 void Frame_Alarm_DoneBtnAction(void* context, Button*) {

@@ -35,6 +35,8 @@ public:
     void InitAlarmInterWorking();
     void InitBackBtnToMainMenuInterWorking();
     void InitBackBtnToChooseInterWorking();
+    // The choose page's buttons, as the screen is opened.
+    void ButtonTrackingOn() override;
     // The statuses and the description of the choose page, and Back leading to the main menu.
     void ChoosePageRefresh();
     // Leaves the confirmation page (or Done with the alarm off) for the choose page.

@@ -1,10 +1,9 @@
 #include "Frame_Lazer.h"
 
-#include "Frame_MoveMent.h"
-#include "Frame_Sound.h"
 #include "LayoutTable.h"
 #include "LazerPicture.h"
 #include "NSColor.h"
+#include "ScreenHost.h"
 
 Frame_Lazer::Frame_Lazer(const NSRect& frame) : NSViewS(frame) {
     InitView();
@@ -99,17 +98,6 @@ void Frame_Lazer::InitInterWorking() {
 
 namespace {
 
-// Leaves the laser screen for another one and switches on that screen's hover tracking, which
-// only takes once the screen is on view. A record that was never filled (a laser screen living
-// outside the root view) leads nowhere, rather than leaving two screens shown or none.
-template <typename Screen> void ShowInstead(Frame_Lazer* screen, Screen* target) {
-    Frame_Lazer* self = screen->frmFrameRec.frmLazer;
-    if (!self || !target) return;
-    self->setHidden(true);
-    target->setHidden(false);
-    target->ButtonTrackingOn();
-}
-
 void ChooseLazerType(void* context, qint32 type) {
     auto* screen = static_cast<Frame_Lazer*>(context);
     if (!screen) return;
@@ -121,12 +109,11 @@ void ChooseLazerType(void* context, qint32 type) {
 } // namespace
 
 void Frame_Lazer_SoundBtnAcion(void* context, Button*) {
-    if (auto* screen = static_cast<Frame_Lazer*>(context)) ShowInstead(screen, screen->frmFrameRec.frmSound);
+    if (auto* screen = static_cast<Frame_Lazer*>(context)) ScreenHost::Follow(screen, Route::LazerSound);
 }
 
 void Frame_Lazer_MovementBtnAcion(void* context, Button*) {
-    if (auto* screen = static_cast<Frame_Lazer*>(context))
-        ShowInstead(screen, screen->frmFrameRec.frmMovement);
+    if (auto* screen = static_cast<Frame_Lazer*>(context)) ScreenHost::Follow(screen, Route::LazerMovement);
 }
 
 // The face tab and play have no pages of their own: both lead to the movement editor.

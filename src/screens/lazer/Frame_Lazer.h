@@ -12,7 +12,7 @@ public:
 
     // Hover registrations of the screen's buttons; every screen that shows this one calls it
     // again after the showing, since a registration made while hidden never fires.
-    void ButtonTrackingOn();
+    void ButtonTrackingOn() override;
     void InitInterWorking();
 
     NSImageViewS* imgBackGround = nullptr;

@@ -1,8 +1,7 @@
 #include "Frame_MainMenu.h"
 
-#include "Frame_Alarm.h"
-#include "Frame_Control.h"
-#include "Frame_Scenario.h"
+#include "ScreenHost.h"
+
 #include "LayoutTable.h"
 #include "NSColor.h"
 
@@ -127,19 +126,9 @@ void Frame_MainMenu_SyncBtnExited(void* context, Button*) {
 }
 
 void Frame_MainMenu_ScenarioBtnAcion(void* context, Button*) {
-    auto* root = static_cast<Frame_Control*>(context);
-    if (!root) return;
-    root->frmMainMenu->setHidden(true);
-    root->frmScenario->setHidden(false);
+    if (auto* host = static_cast<ScreenHost*>(context)) host->Follow(Route::MainMenuProgram);
 }
 
 void Frame_MainMenu_AlarmBtnAcion(void* context, Button*) {
-    auto* root = static_cast<Frame_Control*>(context);
-    if (!root) return;
-    Frame_Alarm* alarm = root->frmAlarm;
-    alarm->frmPreframe = root->frmMainMenu;
-    root->frmMainMenu->setHidden(true);
-    alarm->setHidden(false);
-    RegisterHover({alarm->BtnQuestion, alarm->BtnBirthdayStatus, alarm->BtnWakeupStatus, alarm->BtnBack,
-                   alarm->BtnDone});
+    if (auto* host = static_cast<ScreenHost*>(context)) host->Follow(Route::MainMenuAlarm);
 }

@@ -16,7 +16,7 @@ public:
     void RobotAction();
     // Shows the menu buttons, registers their hover and puts their captions back in their
     // normal colours; every call does all of it again.
-    void ButtonTrackingOn();
+    void ButtonTrackingOn() override;
 
     // Where the robot stops, and how far it moves a tick.
     static constexpr float kRobotRestY = 263.0f;

@@ -1,11 +1,9 @@
 #include "Frame_MoveMent.h"
 
-#include "Frame_Lazer.h"
-#include "Frame_MainMenu.h"
-#include "Frame_Sound.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "PathTables.h"
+#include "ScreenHost.h"
 
 namespace {
 constexpr int kCaptionSize = 15;
@@ -176,33 +174,15 @@ void Frame_MoveMent::AddPiece(qint32 image, const NSRect& frame) {
 }
 
 void Frame_Movement_SoundBtnAcion(void* context, Button*) {
-    auto* self = static_cast<Frame_MoveMent*>(context);
-    if (!self) return;
-    const FRAMESRECORD& rec = self->frmFrameRec;
-    if (rec.frmMovement) rec.frmMovement->setHidden(true);
-    if (!rec.frmSound) return;
-    rec.frmSound->setHidden(false);
-    rec.frmSound->ButtonTrackingOn();
+    if (auto* self = static_cast<Frame_MoveMent*>(context)) ScreenHost::Follow(self, Route::MovementSound);
 }
 
 void Frame_Movement_LazerBtnAcion(void* context, Button*) {
-    auto* self = static_cast<Frame_MoveMent*>(context);
-    if (!self) return;
-    const FRAMESRECORD& rec = self->frmFrameRec;
-    if (rec.frmMovement) rec.frmMovement->setHidden(true);
-    if (!rec.frmLazer) return;
-    rec.frmLazer->setHidden(false);
-    rec.frmLazer->ButtonTrackingOn();
+    if (auto* self = static_cast<Frame_MoveMent*>(context)) ScreenHost::Follow(self, Route::MovementLazer);
 }
 
-// Back leads to the main menu whichever screen opened this one.
 void Frame_Movement_BackBtnAcion(void* context, Button*) {
-    auto* self = static_cast<Frame_MoveMent*>(context);
-    if (!self) return;
-    const FRAMESRECORD& rec = self->frmFrameRec;
-    if (rec.frmMainMenu) rec.frmMainMenu->setHidden(false);
-    if (rec.frmMovement) rec.frmMovement->setHidden(true);
-    if (rec.frmMainMenu) rec.frmMainMenu->ButtonTrackingOn();
+    if (auto* self = static_cast<Frame_MoveMent*>(context)) ScreenHost::Follow(self, Route::MovementBack);
 }
 
 // The bricks do not extend the path yet: which brick sends which command is still open.

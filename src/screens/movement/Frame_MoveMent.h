@@ -15,7 +15,7 @@ public:
 
     // Hover registrations of the screen's buttons, made by whoever shows the screen, after
     // showing it.
-    void ButtonTrackingOn();
+    void ButtonTrackingOn() override;
 
     // One more piece for a movement command (0..8). On an empty path any command draws the first
     // piece (an unknown one draws whatever slot 0 holds); on a path with pieces an unknown

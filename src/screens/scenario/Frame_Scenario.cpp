@@ -1,10 +1,9 @@
 #include "Frame_Scenario.h"
 
-#include "Frame_MainMenu.h"
-#include "Frame_MoveMent.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "ScenarioNotify.h"
+#include "ScreenHost.h"
 
 #include <QLineEdit>
 
@@ -194,7 +193,7 @@ void Frame_Scenario_ModifyBtnAction(void* context, Button*) {
     if (!screen) return;
     screen->frmCreateScenarioView->setHidden(true);
     screen->frmLoadScenarioView->setHidden(false);
-    if (screen->frmFrameRec.frmScenario) screen->frmFrameRec.frmScenario->ButtonTrackingOn();
+    screen->ButtonTrackingOn();
 }
 
 void Frame_Scenario_GoMoveMentBtnAction(void* context, Button*) {
@@ -202,11 +201,7 @@ void Frame_Scenario_GoMoveMentBtnAction(void* context, Button*) {
     if (!screen) return;
     screen->frmCreateScenarioView->setHidden(true);
     screen->frmLoadScenarioView->setHidden(true);
-    screen->setHidden(true);
-    Frame_MoveMent* movement = screen->frmFrameRec.frmMovement;
-    if (!movement) return;
-    movement->setHidden(false);
-    movement->ButtonTrackingOn();
+    ScreenHost::Follow(screen, Route::ScenarioGo);
 }
 
 void Frame_Scenario_BackBtnAction(void* context, Button*) {
@@ -214,8 +209,7 @@ void Frame_Scenario_BackBtnAction(void* context, Button*) {
     if (!screen) return;
     screen->frmCreateScenarioView->setHidden(true);
     screen->frmLoadScenarioView->setHidden(true);
-    screen->setHidden(true);
-    if (screen->frmFrameRec.frmMainMenu) screen->frmFrameRec.frmMainMenu->setHidden(false);
+    ScreenHost::Follow(screen, Route::ScenarioBack);
 }
 
 void Frame_Scenario_NameBtnAction0(void* context, Button* button) {

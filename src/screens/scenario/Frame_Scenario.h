@@ -20,7 +20,7 @@ public:
     void InitCreateScenarioView();
     void InitLoadScenarioView();
     // Hover registrations of the screen's buttons, made after the screen is shown.
-    void ButtonTrackingOn();
+    void ButtonTrackingOn() override;
 
     // Carries out on the name rows what the list asked for.
     void ApplyRowChange(const RowChange& change);

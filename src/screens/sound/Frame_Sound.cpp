@@ -1,10 +1,9 @@
 #include "Frame_Sound.h"
 
 #include "Button.h"
-#include "Frame_Lazer.h"
-#include "Frame_MoveMent.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
+#include "ScreenHost.h"
 #include "SoundSetText.h"
 
 #include <QByteArray>
@@ -457,12 +456,6 @@ Frame_Sound* Screen(void* context) {
     return static_cast<Frame_Sound*>(context);
 }
 
-void ShowScreenFromSound(Frame_Sound* sound, NSViewS* target) {
-    if (!sound || !target) return;
-    target->setHidden(false);
-    if (sound->frmFrameRec.frmSound) sound->frmFrameRec.frmSound->setHidden(true);
-}
-
 // Every sound button shows the names of the current sound set page.
 void ShowSoundSetPage(Frame_Sound* sound) {
     for (qint32 k = 0; k <= Frame_Sound::kBtnSoundLast - Frame_Sound::kBtnSoundFirst; ++k)
@@ -477,11 +470,7 @@ void SoundSetFrom(void* context, qint32 button) {
 } // namespace
 
 void Frame_Sound_MoveMentBtnAcion(void* context, Button*) {
-    Frame_Sound* sound = Screen(context);
-    if (!sound) return;
-    Frame_MoveMent* movement = sound->frmFrameRec.frmMovement;
-    ShowScreenFromSound(sound, movement);
-    if (movement) movement->ButtonTrackingOn();
+    if (Frame_Sound* sound = Screen(context)) ScreenHost::Follow(sound, Route::SoundMovement);
 }
 
 void Frame_Sound_BackBtnAcion(void* context, Button* button) {
@@ -489,13 +478,7 @@ void Frame_Sound_BackBtnAcion(void* context, Button* button) {
 }
 
 void Frame_Sound_LazerBtnAcion(void* context, Button*) {
-    Frame_Sound* sound = Screen(context);
-    if (!sound) return;
-    Frame_Lazer* lazer = sound->frmFrameRec.frmLazer;
-    if (sound->frmFrameRec.frmSound) sound->frmFrameRec.frmSound->setHidden(true);
-    if (!lazer) return;
-    lazer->setHidden(false);
-    lazer->ButtonTrackingOn();
+    if (Frame_Sound* sound = Screen(context)) ScreenHost::Follow(sound, Route::SoundLazer);
 }
 
 // The sound button of row r, column c is button 10 + 3 (r - 1) + (c - 1).

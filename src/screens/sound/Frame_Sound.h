@@ -44,7 +44,7 @@ public:
     void ButtonInit();
     void InitInterWorking();
     // Hover registrations of the screen's buttons, made after the screen is shown.
-    void ButtonTrackingOn();
+    void ButtonTrackingOn() override;
 
     void SoundSet(qint32 button);
     void SoundSetImg();

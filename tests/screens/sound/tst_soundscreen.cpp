@@ -309,25 +309,6 @@ private slots:
         QCOMPARE(s.page(), 2);
     }
 
-    void scrollRunsOnWhileHidden() {
-        SoundApp s;
-        for (int i = 0; i < 12; ++i) QVERIFY(s.choose(10));
-        s.click(11);
-        QVERIFY(s.scrolling());
-        s.click(1); // movement tab
-        QCOMPARE(s.app.shownScreen(), static_cast<QWidget*>(s.app.root()->frmMovement));
-        QVERIFY(s.scrolling());
-        QVERIFY(s.waitIdle());
-        QCOMPARE(s.page(), 1);
-        QVERIFY_ITEMS_IN_PLACE(s.sound);
-        // Shown again, everything is as it was left.
-        s.sound->setHidden(false);
-        s.app.root()->frmMovement->setHidden(true);
-        QCOMPARE(s.items(), 13);
-        QCOMPARE(s.sound->iCurSoundSet, 11);
-        QVERIFY(s.sound->SoundContent.Item.BtnButton[12]->isVisible());
-    }
-
     void fullTimeline() {
         SoundApp s;
         s.click(7);
@@ -360,53 +341,6 @@ private slots:
         QCOMPARE(s.items(), 512);
         QCOMPARE(s.sound->SoundContent.frmSoundContent->children().size(), 3 * 512);
         QVERIFY_ITEMS_IN_PLACE(s.sound);
-    }
-
-    void navigation_data() {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("target");
-        QTest::newRow("movement tab") << 1 << "movement";
-        QTest::newRow("Back") << 27 << "movement";
-        QTest::newRow("laser tab") << 3 << "laser";
-    }
-
-    void navigation() {
-        QFETCH(int, index);
-        QFETCH(QString, target);
-        SoundApp s;
-        QVERIFY(s.choose(12));
-        s.click(index);
-        Frame_Control* root = s.app.root();
-        QWidget* expected = target == QLatin1String("movement") ? static_cast<QWidget*>(root->frmMovement)
-                                                                : static_cast<QWidget*>(root->frmLazer);
-        QCOMPARE(s.app.shownScreen(), expected);
-        QVERIFY(s.sound->isHidden());
-        QCOMPARE(s.items(), 1);
-    }
-
-    // The way a user arrives: the movement screen's sound tab, which also makes the hover
-    // registrations; then over to the laser screen and back by its sound tab.
-    void roundTripThroughTheOtherScreens() {
-        AppHarness app;
-        Frame_Control* root = app.root();
-        Frame_Sound* sound = root->frmSound;
-        root->frmMainMenu->setHidden(true);
-        root->frmMovement->setHidden(false);
-        app.click(root->frmMovement->BtnSound);
-        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
-        QVERIFY(TrackingRegistry::instance().registrationCount(sound->BtnButton[12]) >= 1);
-        app.click(sound->BtnButton[12]);
-        QCOMPARE(sound->SoundContent.iItemNum, 1);
-        app.click(sound->BtnButton[Frame_Sound::kBtnLazer]);
-        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(root->frmLazer));
-        app.click(root->frmLazer->BtnSound);
-        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
-        app.click(sound->BtnButton[Frame_Sound::kBtnBack]);
-        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(root->frmMovement));
-        app.click(root->frmMovement->BtnSound);
-        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
-        QCOMPARE(sound->SoundContent.iItemNum, 1); // nothing was reset on the way
-        QCOMPARE(sound->iCurSoundSet, 12);
     }
 
     void inertButtonsOnlyChangeTheirPictures_data() {

@@ -1,0 +1,8 @@
+#include "ScreenHost.h"
+
+#include <QWidget>
+
+void ScreenHost::Follow(const QWidget* screen, Route route) {
+    if (auto* host = dynamic_cast<ScreenHost*>(screen ? screen->parentWidget() : nullptr))
+        host->Follow(route);
+}
