@@ -2,6 +2,9 @@
 
 #include "Button.h"
 
+#include <QByteArray>
+#include <QList>
+
 namespace Layout {
 
 namespace {
@@ -28,6 +31,7 @@ NSImageViewS* MakeView(NSViewS* parent, const Row& row) {
 
 Button* MakeButton(NSViewS* parent, const Row& row) {
     auto* button = new Button(row.frame);
+    if (row.name) button->setAccessibleName(str(row.name));
     if (row.hidden) button->setHidden(true);
     button->InitImage(str(row.up), str(row.move), str(row.down), str(row.type), parent);
     SetCaption(button, row.caption);
@@ -49,7 +53,26 @@ Row HelpButton(Button** field, NSRect frame) {
             .frame = frame,
             .up = "but_question",
             .move = "but_question_over",
-            .down = "but_question_over"};
+            .down = "but_question_over",
+            .name = "Help"};
+}
+
+Row Family(Button** field, NSRect frame, const char* base, const char* up, const char* move, const char* down,
+           const char* name, Caption caption) {
+    // The names live as long as the application: a table builds once, and pictures are looked
+    // up by name only while it builds.
+    static QList<QByteArray> names;
+    const auto join = [base](const char* suffix) {
+        names.append(QByteArray(base) + suffix);
+        return names.constLast().constData();
+    };
+    return {.button = field,
+            .frame = frame,
+            .up = join(up),
+            .move = join(move),
+            .down = join(down),
+            .caption = caption,
+            .name = name};
 }
 
 void Build(NSViewS* parent, std::initializer_list<Row> rows) {

@@ -35,6 +35,8 @@ struct Row {
     Caption caption;
     const char* type = "png";
     bool hidden = false;
+    // What assistive technology calls a control that has no caption to read.
+    const char* name = nullptr;
 };
 
 // The font of every caption in the application.
@@ -43,6 +45,11 @@ inline const char* const kFontName = "Courier";
 // Buttons several screens share: the silver push button (Back, Done, Settings) and the help button.
 Row SilverButton(Button** field, NSRect frame, Caption caption = {}, bool hidden = false);
 Row HelpButton(Button** field, NSRect frame);
+
+// A button of one picture family, "<base><up>", "<base><move>", "<base><down>": the arrows'
+// "ButtonArrowUp" + "_common" / "_focus", the tabs' "sound" + "" / "_over".
+Row Family(Button** field, NSRect frame, const char* base, const char* up, const char* move, const char* down,
+           const char* name = nullptr, Caption caption = {});
 
 void Build(NSViewS* parent, std::initializer_list<Row> rows);
 NSImageViewS* MakeView(NSViewS* parent, const Row& row);
