@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HoverOwner.h"
 #include "NSImageViewS.h"
 
 #include <initializer_list>
@@ -16,7 +17,7 @@ void BtnExited(void* context, Button* button);
 // The one control of the application that reacts to the mouse: three pictures (at rest, under
 // the pointer, pressed) drawn at their natural size against the left edge, an enable flag, an
 // optional caption, and three callbacks each with its own context.
-class Button : public NSImageViewS {
+class Button : public NSImageViewS, public HoverOwner {
     Q_OBJECT
 public:
     enum class Look { Up, Move, Down };
@@ -38,8 +39,8 @@ public:
 
     void mouseDown();
     void mouseUp();
-    void mouseEntered();
-    void mouseExited();
+    void mouseEntered() override;
+    void mouseExited() override;
 
     // One more hover registration of the part of the button that is on view now.
     void RegisterHover();

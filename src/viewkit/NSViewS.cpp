@@ -44,7 +44,7 @@ QRect NSViewS::VisibleRect(const QWidget* widget) {
     return visible.isEmpty() ? QRect() : visible;
 }
 
-void NSViewS::addTrackingRect(const QRect& rect, Button* owner, void* userData, bool assumeInside) {
+void NSViewS::addTrackingRect(const QRect& rect, HoverOwner* owner, void* userData, bool assumeInside) {
     TrackingRegistry::instance().add(this, rect, owner, userData, assumeInside);
 }
 

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-class Button;
+class HoverOwner;
 
 // The container every screen and sub-view is made of. Qt already has the origin at the top left
 // with y growing downwards; what it lacks is a float frame, so the view keeps one.
@@ -29,7 +29,7 @@ public:
     // A hover registration: the rectangle (in this view's coordinates) is fixed in window
     // coordinates now, and the owner gets one enter and one exit per crossing, for as long as
     // the application runs.
-    void addTrackingRect(const QRect& rect, Button* owner, void* userData, bool assumeInside);
+    void addTrackingRect(const QRect& rect, HoverOwner* owner, void* userData, bool assumeInside);
 
     // A screen makes the hover registrations of its buttons when it is shown; other views have none.
     virtual void ButtonTrackingOn() {}

@@ -1,6 +1,6 @@
 #include "TrackingRegistry.h"
 
-#include "Button.h"
+#include "HoverOwner.h"
 
 #include <QMouseEvent>
 #include <QWidget>
@@ -10,15 +10,16 @@ TrackingRegistry& TrackingRegistry::instance() {
     return registry;
 }
 
-void TrackingRegistry::add(QWidget* view, const QRect& rect, Button* owner, void* /*userData*/,
+void TrackingRegistry::add(QWidget* view, const QRect& rect, HoverOwner* owner, void* /*userData*/,
                            bool assumeInside) {
-    if (!view || !owner || rect.isEmpty() || !view->isVisible()) return;
+    auto* ownerView = dynamic_cast<QWidget*>(owner);
+    if (!view || !ownerView || rect.isEmpty() || !view->isVisible()) return;
     QWidget* top = view->window();
     QWindow* window = top ? top->windowHandle() : nullptr;
     if (!window) return;
 
     const QRect inWindow = rect.translated(view->mapTo(top, QPoint(0, 0)));
-    m_registrations.push_back({window, inWindow, owner, assumeInside});
+    m_registrations.push_back({window, inWindow, owner, ownerView, assumeInside});
 
     bool watched = false;
     for (const auto& w : m_watched) watched = watched || w == window;
@@ -28,9 +29,9 @@ void TrackingRegistry::add(QWidget* view, const QRect& rect, Button* owner, void
     }
 }
 
-int TrackingRegistry::registrationCount(const Button* owner) const {
+int TrackingRegistry::registrationCount(const HoverOwner* owner) const {
     int count = 0;
-    for (const auto& r : m_registrations) count += (r.owner == owner) ? 1 : 0;
+    for (const auto& r : m_registrations) count += (r.ownerView && r.owner == owner) ? 1 : 0;
     return count;
 }
 
@@ -67,13 +68,12 @@ void TrackingRegistry::pointerMoved(QWindow* window, bool present, QPoint pos) {
             const bool inside = present && r.rect.contains(pos);
             if (inside == r.inside || inside != entering) continue;
             r.inside = inside;
-            Button* owner = r.owner;
             // A button that is not on view keeps its looks until it is shown again.
-            if (!owner || !owner->isVisible()) continue;
+            if (!r.ownerView || !r.ownerView->isVisible()) continue;
             if (inside)
-                owner->mouseEntered();
+                r.owner->mouseEntered();
             else
-                owner->mouseExited();
+                r.owner->mouseExited();
         }
     }
 }

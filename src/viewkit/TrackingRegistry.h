@@ -7,7 +7,7 @@
 
 #include <vector>
 
-class Button;
+class HoverOwner;
 class QWidget;
 
 // Hover registrations. Qt's own enter/leave follow the widget under the pointer; the buttons of
@@ -21,10 +21,10 @@ public:
 
     // rect is in view's coordinates. An empty rectangle (the view hidden, or not yet in a shown
     // window) is accepted and never fires.
-    void add(QWidget* view, const QRect& rect, Button* owner, void* userData, bool assumeInside);
+    void add(QWidget* view, const QRect& rect, HoverOwner* owner, void* userData, bool assumeInside);
 
     // How many live registrations an owner has; registrations made while empty do not count.
-    int registrationCount(const Button* owner) const;
+    int registrationCount(const HoverOwner* owner) const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,7 +33,8 @@ private:
     struct Registration {
         QPointer<QWindow> window;
         QRect rect; // window coordinates
-        QPointer<Button> owner;
+        HoverOwner* owner;
+        QPointer<QWidget> ownerView; // the owner's view: gone with it, and hidden with it
         bool inside = false;
     };
 
