@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QRect>
 #include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
 
 class XDisplay;
 
@@ -17,8 +19,15 @@ public:
     AppWindow(const AppWindow&) = delete;
     AppWindow& operator=(const AppWindow&) = delete;
 
-    // Starts the binary and waits for its window to be mapped; on failure says why.
+    // Starts the binary, under strace where it can trace, with a home and runtime folder of its
+    // own, and waits for its window to be mapped; on failure says why.
     bool start(const QString& binary, QString* why);
+    // Ends the application; what it wrote stays readable.
+    void stop();
+    // What the traced run did that it may not: network sockets, writes to the file system. Read
+    // after stop(); empty when the run was not traced.
+    QStringList sideEffects() const;
+    bool traced() const { return m_traced; }
     bool isRunning() const { return m_process.state() == QProcess::Running; }
     QRect windowRect() const { return m_window; }
 
@@ -41,9 +50,13 @@ public:
 
 private:
     bool xdotool(const QStringList& args) const;
+    QString tracePath() const;
 
     const XDisplay& m_display;
     QProcess m_process;
+    QTemporaryDir m_scratch;
+    bool m_traced = false;
+    qint64 m_appPid = 0;
     QString m_windowId;
     QRect m_window;
     QPoint m_pointer{-1, -1};
