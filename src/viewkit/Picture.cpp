@@ -33,11 +33,6 @@ const QSet<QString>& shippedFiles() {
     return files;
 }
 
-QSet<QString>& hiddenForTests() {
-    static QSet<QString> names;
-    return names;
-}
-
 bool shipped(const QString& file) {
     // A resource registered after the list was made is still found, at the old price.
     return shippedFiles().contains(file) || QFile::exists(kFolder + file);
@@ -95,12 +90,8 @@ Picture Picture::Lookup(const QString& name, const QString& type) {
     picture.m_name = name;
     picture.m_type = type;
     const QString file = resourceFile(name, {}, type);
-    if (shipped(file) && !hiddenForTests().contains(name)) picture.m_path = kFolder + file;
+    if (shipped(file)) picture.m_path = kFolder + file;
     return picture;
-}
-
-void Picture::HideForTests(const QStringList& names) {
-    hiddenForTests() = QSet<QString>(names.begin(), names.end());
 }
 
 QSizeF Picture::naturalSize() const {

@@ -14,9 +14,6 @@ class Picture {
 public:
     Picture() = default;
     static Picture Lookup(const QString& name, const QString& type);
-    // Tests only: from the next lookup on, these names are found as if their resources were
-    // missing (an empty list brings every picture back).
-    static void HideForTests(const QStringList& names);
 
     bool isNull() const { return m_path.isEmpty(); }
     // The name asked for (empty for a null name), whether or not the resource exists.
