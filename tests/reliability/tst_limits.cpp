@@ -48,12 +48,12 @@ struct PathSnapshot {
         const int n = p.iItemCnt;
         return {n,
                 p.iDirect,
-                p.Item[0].PathImg,
+                m->PathImg[0],
                 p.Item[0].iImgNO,
-                n > 0 ? p.Item[n - 1].PathImg : nullptr,
+                n > 0 ? m->PathImg[n - 1] : nullptr,
                 n > 0 ? p.Item[n - 1].iImgNO : 0,
-                n > 0 && p.Item[n - 1].PathImg ? p.Item[n - 1].PathImg->frame() : NSRect{},
-                p.frmPath->children().size()};
+                n > 0 && m->PathImg[n - 1] ? m->PathImg[n - 1]->frame() : NSRect{},
+                m->frmPath->children().size()};
     }
     bool operator==(const PathSnapshot& o) const {
         return count == o.count && direct == o.direct && first == o.first && firstImage == o.firstImage &&

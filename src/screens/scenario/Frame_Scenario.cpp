@@ -63,14 +63,18 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
 
     InitView();
     ButtonTrackingOn();
-    if (numOfList == 0) BtnModify->setHidden(true);
+    if (!canModify()) BtnModify->setHidden(true);
 }
 
 void Frame_Scenario::InitView() {
     InitCreateScenarioView();
     InitLoadScenarioView();
-    frmCreateScenarioView->setHidden(true);
-    frmLoadScenarioView->setHidden(true);
+    ShowPage();
+}
+
+void Frame_Scenario::ShowPage() {
+    frmCreateScenarioView->setHidden(page != Page::Create);
+    frmLoadScenarioView->setHidden(page != Page::List);
 }
 
 void Frame_Scenario::InitCreateScenarioView() {
@@ -171,8 +175,8 @@ void Frame_Scenario::SetNameCaption(qint32 row, const QString& text) {
 
 void Frame_Scenario::ApplyRowChange(const RowChange& change) {
     if (change.listEmptied) {
-        frmLoadScenarioView->setHidden(true);
-        BtnModify->setHidden(true);
+        ShowPage();
+        BtnModify->setHidden(!canModify());
         return;
     }
     if (change.hideRow >= 0 && change.hideRow < kRows) BtnScenarioName[change.hideRow]->setHidden(true);
@@ -184,31 +188,31 @@ void Frame_Scenario::ApplyRowChange(const RowChange& change) {
 void Frame_Scenario_CreateBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(false);
-    screen->frmLoadScenarioView->setHidden(true);
+    screen->CreateAction();
+    screen->ShowPage();
 }
 
 void Frame_Scenario_ModifyBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(true);
-    screen->frmLoadScenarioView->setHidden(false);
+    screen->ModifyAction();
+    screen->ShowPage();
     screen->ButtonTrackingOn();
 }
 
 void Frame_Scenario_GoMoveMentBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(true);
-    screen->frmLoadScenarioView->setHidden(true);
+    screen->Leave();
+    screen->ShowPage();
     ScreenHost::Follow(screen, Route::ScenarioGo);
 }
 
 void Frame_Scenario_BackBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(true);
-    screen->frmLoadScenarioView->setHidden(true);
+    screen->Leave();
+    screen->ShowPage();
     ScreenHost::Follow(screen, Route::ScenarioBack);
 }
 
