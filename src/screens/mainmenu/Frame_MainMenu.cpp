@@ -16,11 +16,10 @@ const char* const kProgramText = "Program scenario";
 const char* const kAlarmText = "Alarm/Clock";
 const char* const kSyncText = "Synchronization";
 
-// The menu buttons are hidden until the robot has arrived.
-Layout::Row MenuButton(Button** field, qint32 y, const char* family, const char* name) {
+Layout::Row MenuButton(Button** field, qint32 y, const char* family, const char* name, bool hidden) {
     Layout::Row row = Layout::Family(field, MakeNSRect(607, y, 250, 93), family, "_normal_menus",
                                      "_focused_menus", "_selected_menus", name);
-    row.hidden = true;
+    row.hidden = hidden;
     return row;
 }
 
@@ -31,16 +30,18 @@ Frame_MainMenu* Menu(void* context) {
 } // namespace
 
 Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
+    // The menu waits for the robot.
+    const bool waiting = !robotSlide.hasArrived();
     Layout::Build(this,
                   {
                       {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "mainpage_bg"},
                       {.image = &imgRobot,
-                       .frame = MakeNSRect(0, static_cast<qint32>(RobotSlide::kStartY), 596, 584),
+                       .frame = MakeNSRect(0, static_cast<qint32>(robotSlide.y), 596, 584),
                        .up = "logo_main"},
-                      MenuButton(&BtnProgram, 172, "command", kProgramText),
-                      MenuButton(&BtnAlarm, 297, "clock", kAlarmText),
-                      MenuButton(&BtnSync, 421, "usb", kSyncText),
-                      Layout::SilverButton(&BtnSetting, MakeNSRect(689, 706, 85, 40), {}, true),
+                      MenuButton(&BtnProgram, 172, "command", kProgramText, waiting),
+                      MenuButton(&BtnAlarm, 297, "clock", kAlarmText, waiting),
+                      MenuButton(&BtnSync, 421, "usb", kSyncText, waiting),
+                      Layout::SilverButton(&BtnSetting, MakeNSRect(689, 706, 85, 40), {}, waiting),
                       Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
                   });
 

@@ -102,7 +102,7 @@ void Frame_Scenario::InitCreateScenarioView() {
                     .down = "but_selected_Btn01",
                     .caption = {"Create", NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16}}});
     BtnNewCreate->InitButtonAction(Frame_Scenario_GoMoveMentBtnAction, this);
-    BtnNewCreate->SetEnable(0);
+    BtnNewCreate->SetEnable(bCreateEnabled ? 1 : 0);
 }
 
 void Frame_Scenario::InitLoadScenarioView() {
@@ -111,36 +111,26 @@ void Frame_Scenario::InitLoadScenarioView() {
     addSubview(frmLoadScenarioView);
 
     for (qint32 r = 0; r < kRows; ++r) {
-        const char* bar = r == 0 ? kHighlightBar : nullptr;
+        const char* bar = r == indexShow ? kHighlightBar : nullptr;
         BtnScenarioName[r] = Layout::MakeButton(
             frmLoadScenarioView,
             {.frame = MakeNSRect(0, 36 * r, 414, 39), .up = bar, .move = bar, .down = bar});
-        SetNameCaption(r, name(r));
+        SetNameCaption(r, name(firstShown() + r));
         BtnScenarioName[r]->RegisterHover();
     }
 
-    Layout::Build(frmLoadScenarioView, {
-                                           {.button = &BtnUpList,
-                                            .frame = MakeNSRect(212, 328, 48, 25),
-                                            .up = "ButtonSelectBarUp_common",
-                                            .move = "ButtonSelectBarUp_focus",
-                                            .down = "ButtonSelectBarUp_focus"},
-                                           {.button = &BtnDownList,
-                                            .frame = MakeNSRect(262, 328, 48, 25),
-                                            .up = "ButtonSelectBarDown_common",
-                                            .move = "ButtonSelectBarDown_focus",
-                                            .down = "ButtonSelectBarDown_focus"},
-                                           {.button = &BtnX,
-                                            .frame = MakeNSRect(312, 328, 48, 25),
-                                            .up = "Btn_X_up",
-                                            .move = "Btn_X_move",
-                                            .down = "Btn_X_move"},
-                                           {.button = &BtnGo,
-                                            .frame = MakeNSRect(362, 328, 48, 25),
-                                            .up = "Btn_Go_up",
-                                            .move = "Btn_Go_focus",
-                                            .down = "Btn_Go_focus"},
-                                       });
+    const auto listButton = [](Button** field, qint32 x, const char* base, const char* up, const char* move,
+                               const char* name) {
+        return Layout::Family(field, MakeNSRect(x, 328, 48, 25), base, up, move, move, name);
+    };
+    Layout::Build(
+        frmLoadScenarioView,
+        {
+            listButton(&BtnUpList, 212, "ButtonSelectBarUp", "_common", "_focus", "Scenario list up"),
+            listButton(&BtnDownList, 262, "ButtonSelectBarDown", "_common", "_focus", "Scenario list down"),
+            listButton(&BtnX, 312, "Btn_X", "_up", "_move", "Delete scenario"),
+            listButton(&BtnGo, 362, "Btn_Go", "_up", "_focus", "Go"),
+        });
 
     const ButtonCallback nameActions[kRows] = {Frame_Scenario_NameBtnAction0, Frame_Scenario_NameBtnAction1,
                                                Frame_Scenario_NameBtnAction2, Frame_Scenario_NameBtnAction3,
