@@ -67,7 +67,7 @@ struct App {
         window->show();
         Bench::PaintCounter first(window.get());
         while (first.count() == 0) QCoreApplication::processEvents();
-        root->frmMainMenu->timer->stop();
+        root->frmMainMenu->robotSlide.timer->stop();
     }
 
     void showOnly(QWidget* screen) {
@@ -113,7 +113,7 @@ struct Result {
 } // namespace
 
 static void RobotTick(Frame_MainMenu* menu) {
-    menu->RobotAction();
+    menu->robotSlide.RobotAction();
     QCoreApplication::processEvents();
 }
 
@@ -140,7 +140,7 @@ __attribute__((noinline)) void BenchRobotFloorTick(RobotFloorState* s) {
 
 namespace {
 
-Result RobotSlide(int samples) {
+Result RobotSlideFrames(int samples) {
     Result result{"Robot slide frame (one tick + repaint of the main menu)", "tick", {}, {}, 0, 1000};
     App app;
     Frame_MainMenu* menu = app.root->frmMainMenu;
@@ -159,9 +159,11 @@ Result RobotSlide(int samples) {
     // Keep the robot sliding: put it back at the bottom before it would arrive (the arriving
     // tick brings the menu alive, a different piece of work measured nowhere else).
     auto rewind = [&] {
-        NSRect f = robot->frame();
-        if (f.y - Frame_MainMenu::kRobotStep <= Frame_MainMenu::kRobotRestY) {
-            f.y = 768.0f;
+        auto& slide = menu->robotSlide;
+        if (slide.y - RobotSlide::kStep <= RobotSlide::kRestY) {
+            slide.y = RobotSlide::kStartY;
+            NSRect f = robot->frame();
+            f.y = slide.y;
             robot->setFrame(f);
             Flush();
         }
@@ -392,7 +394,7 @@ Result PathDrawing(int samples) {
         auto* movement = new Frame_MoveMent(Frame_Control::WindowFrame());
         app.root->addSubview(movement);
         app.showOnly(movement);
-        Bench::PaintCounter paints(movement->PathInfo.frmPath);
+        Bench::PaintCounter paints(movement->frmPath);
         if (i < 0) { // warm-up
             PathBatch(movement, &commands);
             PathFloorBatch(&floor, &commands);
@@ -438,7 +440,7 @@ int main(int argc, char** argv) {
     auto wanted = [&](const char* name) { return !only || std::strcmp(only, name) == 0; };
 
     std::vector<Result> results;
-    if (wanted("robot")) results.push_back(RobotSlide(samples > 0 ? samples : 400));
+    if (wanted("robot")) results.push_back(RobotSlideFrames(samples > 0 ? samples : 400));
     if (wanted("timeline"))
         for (const Result& r : TimelineScroll(samples > 0 ? samples : 230)) results.push_back(r);
     if (wanted("path")) results.push_back(PathDrawing(samples > 0 ? samples : 15));

@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
     if (ready) {
         Frame_Control* root = RootView(window.get());
         Bench::Sample last{0, 0};
-        QObject::connect(root->frmMainMenu->timer, &QTimer::timeout, [&] {
+        QObject::connect(root->frmMainMenu->robotSlide.timer, &QTimer::timeout, [&] {
             const Bench::Sample now{Bench::CpuNowNs(), Bench::WallNowNs()};
             if (last.wallNs) {
                 tickCpuUs.push_back((now.cpuNs - last.cpuNs) / 1000.0);

@@ -7,6 +7,11 @@ void ScenarioList::Fill() {
     numOfList = kSlots;
 }
 
+bool ScenarioList::NameChanged(const QString& text) {
+    bCreateEnabled = !text.isEmpty();
+    return bCreateEnabled;
+}
+
 QString ScenarioList::name(qint32 index) const {
     if (index < 0 || index >= kSlots) return {};
     return txtLoadScenarioName[index];
@@ -66,7 +71,10 @@ ScenarioList::RowChange ScenarioList::Remove() {
     const qint32 n = before - 1;
     numOfList = n;
 
-    if (n == 0) return {.listEmptied = true};
+    if (n == 0) {
+        if (page == Page::List) page = Page::Choice;
+        return {.listEmptied = true};
+    }
 
     if (n >= kRows) {
         qint32 first = firstShown();

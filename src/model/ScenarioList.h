@@ -3,9 +3,11 @@
 #include <QString>
 #include <QtGlobal>
 
-// The list of scenario names behind the seven name rows: which name is chosen, which row shows
-// it, and what the rows must be told when the choice moves or a name goes. No widgets: each
-// operation changes the model and answers with the row changes for the screen to carry out.
+// The scenario screen's choices: which of its two views is open, whether a typed name can be
+// created, and the list of scenario names behind the seven name rows: which name is chosen,
+// which row shows it, and what the rows must be told when the choice moves or a name goes. No
+// widgets: each operation changes the model and answers with the changes for the screen to
+// carry out.
 //
 // Row r shows the name at firstShown() + r for r below shownRows(); the chosen name is in row
 // indexShow, the only row with the highlight bar. Every operation keeps the rows within the
@@ -33,6 +35,17 @@ public:
         friend bool operator==(const RowChange&, const RowChange&) = default;
     };
 
+    // The view open beside the two actions; leaving the screen closes it.
+    enum class Page { Choice, Create, List };
+
+    void CreateAction() { page = Page::Create; }
+    void ModifyAction() { page = Page::List; }
+    void Leave() { page = Page::Choice; }
+    // "Create" takes any name of at least one character; answers whether it is enabled now.
+    bool NameChanged(const QString& text);
+    // "Modify exist scenario" leads nowhere once the list is empty.
+    bool canModify() const { return numOfList > 0; }
+
     // The twenty names "0" to "19", the first one chosen in row 0.
     void Fill();
 
@@ -47,6 +60,8 @@ public:
     RowChange Down();
     RowChange Remove();
 
+    Page page = Page::Choice;
+    bool bCreateEnabled = false;
     qint32 indexChoose = 0;
     qint32 indexShow = 0;
     qint32 numOfList = 0;

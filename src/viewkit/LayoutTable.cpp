@@ -75,6 +75,24 @@ Row Family(Button** field, NSRect frame, const char* base, const char* up, const
             .name = name};
 }
 
+void BuildTabs(NSViewS* parent, const TabStrip& strip) {
+    struct TabLook {
+        const char* picture;
+        const char* name;
+    };
+    static const TabLook looks[kTabCount] = {{"movement", "Movement tab"},
+                                             {"sound", "Sound tab"},
+                                             {"lazer", "Laser tab"},
+                                             {"face", "Face tab"},
+                                             {"play", "Play"}};
+    for (int i = 0; i < kTabCount; ++i) {
+        const char* up = static_cast<int>(strip.current) == i ? "_over" : "";
+        const Row row = Family(strip.fields[i], MakeNSRect(strip.x[i], strip.y, 64, 63), looks[i].picture, up,
+                               "_over", "_over", looks[i].name);
+        *row.button = MakeButton(parent, row);
+    }
+}
+
 void Build(NSViewS* parent, std::initializer_list<Row> rows) {
     for (const Row& row : rows) {
         if (row.button)

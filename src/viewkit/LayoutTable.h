@@ -51,6 +51,17 @@ Row HelpButton(Button** field, NSRect frame);
 Row Family(Button** field, NSRect frame, const char* base, const char* up, const char* move, const char* down,
            const char* name = nullptr, Caption caption = {});
 
+// The editors' row of tabs, in this order; each tab is 64 by 63 points, all on one line.
+enum class Tab { Movement, Sound, Lazer, Face, Play };
+inline constexpr int kTabCount = 5;
+struct TabStrip {
+    Button** fields[kTabCount];
+    qint32 x[kTabCount];
+    Tab current; // wears its chosen look in every state, so the page shows which editor it is
+    qint32 y = 199;
+};
+void BuildTabs(NSViewS* parent, const TabStrip& strip);
+
 void Build(NSViewS* parent, std::initializer_list<Row> rows);
 NSImageViewS* MakeView(NSViewS* parent, const Row& row);
 Button* MakeButton(NSViewS* parent, const Row& row);

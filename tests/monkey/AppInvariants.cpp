@@ -112,13 +112,13 @@ QStringList AppInvariants::checkRecords() const {
 QStringList AppInvariants::checkMainMenu() const {
     QStringList broken;
     const Frame_MainMenu* menu = m_root->frmMainMenu;
-    if (!menu || !menu->imgRobot || !menu->timer) return {QStringLiteral("main menu widgets missing")};
+    if (!menu || !menu->imgRobot || !menu->robotSlide.timer) return {QStringLiteral("main menu widgets missing")};
     const float y = menu->imgRobot->frame().y;
-    if (y < Frame_MainMenu::kRobotRestY || y > 768.0f) broken << QStringLiteral("robot at y %1").arg(y);
-    const bool arrived = y == Frame_MainMenu::kRobotRestY;
-    if (menu->timer->isActive() == arrived)
+    if (y < RobotSlide::kRestY || y > 768.0f) broken << QStringLiteral("robot at y %1").arg(y);
+    const bool arrived = y == RobotSlide::kRestY;
+    if (menu->robotSlide.timer->isActive() == arrived)
         broken << QStringLiteral("robot timer %1 with the robot at y %2")
-                      .arg(menu->timer->isActive() ? QStringLiteral("runs") : QStringLiteral("stopped"))
+                      .arg(menu->robotSlide.timer->isActive() ? QStringLiteral("runs") : QStringLiteral("stopped"))
                       .arg(y);
     for (const Button* b : {menu->BtnProgram, menu->BtnAlarm, menu->BtnSync, menu->BtnSetting})
         if (b && Shown(b) != arrived)
@@ -185,16 +185,16 @@ QStringList AppInvariants::checkNameField() const {
 QStringList AppInvariants::checkPath() const {
     QStringList broken;
     const Frame_MoveMent* m = m_root->frmMovement;
-    if (!m || !m->PathInfo.frmPath) return {QStringLiteral("path view missing")};
+    if (!m || !m->frmPath) return {QStringLiteral("path view missing")};
     const PATHMAINSTRUCT& path = m->PathInfo;
     if (path.iItemCnt < 0 || path.iItemCnt > PathPlacement::kMaxPieces)
         return {QStringLiteral("path holds %1 pieces").arg(path.iItemCnt)};
     for (qint32 i = 0; i < PathPlacement::kMaxPieces; ++i)
-        if ((path.Item[i].PathImg != nullptr) != (i < path.iItemCnt))
+        if ((m->PathImg[i] != nullptr) != (i < path.iItemCnt))
             broken << QStringLiteral("path slot %1 out of step with %2 pieces").arg(i).arg(path.iItemCnt);
-    if (ChildWidgets(path.frmPath) != path.iItemCnt)
+    if (ChildWidgets(m->frmPath) != path.iItemCnt)
         broken << QStringLiteral("path view has %1 pieces, the counter %2")
-                      .arg(ChildWidgets(path.frmPath))
+                      .arg(ChildWidgets(m->frmPath))
                       .arg(path.iItemCnt);
     if (path.iDirect < 0 || path.iDirect > 4) broken << QStringLiteral("path direction %1").arg(path.iDirect);
     return broken;

@@ -43,7 +43,7 @@ const Case kCases[] = {
      "the sound screen's frmFrameRec changed"},
     {"record emptied", [](Frame_Control* r) { r->frmScenario->frmFrameRec.frmMainMenu = nullptr; },
      "the scenario screen's frmFrameRec changed"},
-    {"robot timer after arrival", [](Frame_Control* r) { r->frmMainMenu->timer->start(); },
+    {"robot timer after arrival", [](Frame_Control* r) { r->frmMainMenu->robotSlide.timer->start(); },
      "robot timer runs", true},
     {"path past its end", [](Frame_Control* r) { r->frmMovement->PathInfo.iItemCnt = 513; },
      "path holds 513"},

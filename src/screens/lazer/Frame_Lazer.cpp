@@ -30,43 +30,23 @@ void Frame_Lazer::InitView() {
                       {.image = &txtLazerTitle,
                        .frame = MakeNSRect(104, 314, 341, 25),
                        .caption = {"Robot configuration", orange, MakeNSRect(0, 0, 341, 25), 16}},
-                      {.button = &BtnLazer1,
-                       .frame = MakeNSRect(117, 379, 105, 105),
-                       .up = "Lazer_normal_1",
-                       .move = "Lazer_enter_1",
-                       .down = "Lazer_selected_1"},
-                      {.button = &BtnLazer2,
-                       .frame = MakeNSRect(227, 379, 105, 105),
-                       .up = "Lazer_normal_2",
-                       .move = "Lazer_enter_2",
-                       .down = "Lazer_selected_2"},
-                      {.button = &BtnLazer3,
-                       .frame = MakeNSRect(337, 379, 105, 105),
-                       .up = "Lazer_normal_3",
-                       .move = "Lazer_enter_3",
-                       .down = "Lazer_selected_3"},
+                      Layout::Family(&BtnLazer1, MakeNSRect(117, 379, 105, 105), "Lazer_", "normal_1",
+                                     "enter_1", "selected_1", "Robot configuration 1"),
+                      Layout::Family(&BtnLazer2, MakeNSRect(227, 379, 105, 105), "Lazer_", "normal_2",
+                                     "enter_2", "selected_2", "Robot configuration 2"),
+                      Layout::Family(&BtnLazer3, MakeNSRect(337, 379, 105, 105), "Lazer_", "normal_3",
+                                     "enter_3", "selected_3", "Robot configuration 3"),
                   });
 
-    // The tab buttons exist from here on but join the screen only with their pictures, all
-    // together after the "Lazer" tag, so the tag lies beneath them.
-    BtnMoveMent = new Button(MakeNSRect(528, 199, 64, 63));
-    BtnSound = new Button(MakeNSRect(594, 199, 64, 63));
-    BtnLazer = new Button(MakeNSRect(660, 199, 64, 63));
+    // The "Lazer" tag lies beneath the tabs.
     Layout::Build(this, {
                             {.image = &txtLazerTag,
                              .frame = MakeNSRect(717, 222, 78, 25),
                              .caption = {"Lazer", orange, MakeNSRect(0, 0, 78, 25), 18}},
                         });
-    BtnFace = new Button(MakeNSRect(800, 199, 64, 63));
-    BtnPlay = new Button(MakeNSRect(875, 199, 64, 63));
-
-    const QString png = QStringLiteral("png");
-    BtnMoveMent->InitImage("movement", "movement_over", "movement_over", png, this);
-    BtnSound->InitImage("sound", "sound_over", "sound_over", png, this);
-    // This screen's own tab always wears its current-tab look.
-    BtnLazer->InitImage("lazer_over", "lazer_over", "lazer_over", png, this);
-    BtnFace->InitImage("face", "face_over", "face_over", png, this);
-    BtnPlay->InitImage("play", "play_over", "play_over", png, this);
+    Layout::BuildTabs(this, {.fields = {&BtnMoveMent, &BtnSound, &BtnLazer, &BtnFace, &BtnPlay},
+                             .x = {528, 594, 660, 800, 875},
+                             .current = Layout::Tab::Lazer});
 
     Layout::Build(this, {
                             {.image = &txtAnimation,

@@ -5,8 +5,6 @@
 #include "LayoutTable.h"
 #include "NSColor.h"
 
-#include <QTimer>
-
 namespace {
 
 // The three big menu buttons share one caption place; hover swaps only the colour.
@@ -18,6 +16,13 @@ const char* const kProgramText = "Program scenario";
 const char* const kAlarmText = "Alarm/Clock";
 const char* const kSyncText = "Synchronization";
 
+Layout::Row MenuButton(Button** field, qint32 y, const char* family, const char* name, bool hidden) {
+    Layout::Row row = Layout::Family(field, MakeNSRect(607, y, 250, 93), family, "_normal_menus",
+                                     "_focused_menus", "_selected_menus", name);
+    row.hidden = hidden;
+    return row;
+}
+
 Frame_MainMenu* Menu(void* context) {
     return static_cast<Frame_MainMenu*>(context);
 }
@@ -25,38 +30,28 @@ Frame_MainMenu* Menu(void* context) {
 } // namespace
 
 Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
+    // The menu waits for the robot.
+    const bool waiting = !robotSlide.hasArrived();
     Layout::Build(this,
                   {
                       {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "mainpage_bg"},
-                      {.image = &imgRobot, .frame = MakeNSRect(0, 768, 596, 584), .up = "logo_main"},
-                      {.button = &BtnProgram,
-                       .frame = MakeNSRect(607, 172, 250, 93),
-                       .up = "command_normal_menus",
-                       .move = "command_focused_menus",
-                       .down = "command_selected_menus",
-                       .hidden = true},
-                      {.button = &BtnAlarm,
-                       .frame = MakeNSRect(607, 297, 250, 93),
-                       .up = "clock_normal_menus",
-                       .move = "clock_focused_menus",
-                       .down = "clock_selected_menus",
-                       .hidden = true},
-                      {.button = &BtnSync,
-                       .frame = MakeNSRect(607, 421, 250, 93),
-                       .up = "usb_normal_menus",
-                       .move = "usb_focused_menus",
-                       .down = "usb_selected_menus",
-                       .hidden = true},
-                      Layout::SilverButton(&BtnSetting, MakeNSRect(689, 706, 85, 40), {}, true),
+                      {.image = &imgRobot,
+                       .frame = MakeNSRect(0, static_cast<qint32>(robotSlide.y), 596, 584),
+                       .up = "logo_main"},
+                      MenuButton(&BtnProgram, 172, "command", kProgramText, waiting),
+                      MenuButton(&BtnAlarm, 297, "clock", kAlarmText, waiting),
+                      MenuButton(&BtnSync, 421, "usb", kSyncText, waiting),
+                      Layout::SilverButton(&BtnSetting, MakeNSRect(689, 706, 85, 40), {}, waiting),
                       Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
                   });
 
-    // Qt keeps firing timers while a mouse button is held, so the slide goes on under a press.
-    timer = new QTimer(this);
-    timer->setTimerType(Qt::PreciseTimer);
-    timer->setInterval(kRobotTickMs);
-    connect(timer, &QTimer::timeout, this, &Frame_MainMenu::RobotAction);
-    timer->start();
+    connect(&robotSlide, &RobotSlide::arrived, this, &Frame_MainMenu::ButtonTrackingOn);
+    connect(&robotSlide, &RobotSlide::moved, this, [this](float y) {
+        NSRect frame = imgRobot->frame();
+        frame.y = y;
+        imgRobot->setFrame(frame);
+        imgRobot->update();
+    });
 
     InitInterWorking();
 }
@@ -68,19 +63,6 @@ void Frame_MainMenu::InitInterWorking() {
     BtnProgram->InitButtonExited(Frame_MainMenu_ProgramBtnExited, this);
     BtnAlarm->InitButtonExited(Frame_MainMenu_AlarmBtnExited, this);
     BtnSync->InitButtonExited(Frame_MainMenu_SyncBtnExited, this);
-}
-
-void Frame_MainMenu::RobotAction() {
-    NSRect frame = imgRobot->frame();
-    float y = frame.y - kRobotStep;
-    if (!(y > kRobotRestY)) {
-        timer->stop();
-        ButtonTrackingOn();
-        y = kRobotRestY;
-    }
-    frame.y = y;
-    imgRobot->setFrame(frame);
-    imgRobot->update();
 }
 
 void Frame_MainMenu::ButtonTrackingOn() {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "Button.h"
-
-class QTimer;
+#include "RobotSlide.h"
 
 // The first screen: the robot slides up from below the window's bottom edge, then the menu
 // buttons appear and come alive.
@@ -12,20 +11,13 @@ public:
     explicit Frame_MainMenu(const NSRect& frame);
 
     void InitInterWorking();
-    // One step of the robot's slide.
-    void RobotAction();
     // Shows the menu buttons, registers their hover and puts their captions back in their
     // normal colours; every call does all of it again.
     void ButtonTrackingOn() override;
 
-    // Where the robot stops, and how far it moves a tick.
-    static constexpr float kRobotRestY = 263.0f;
-    static constexpr float kRobotStep = 5.0f;
-    static constexpr int kRobotTickMs = 10;
-
     NSImageViewS* imgBackGround = nullptr;
     NSImageViewS* imgRobot = nullptr;
-    QTimer* timer = nullptr; // stopped once the robot has arrived
+    RobotSlide robotSlide; // its arrival brings the menu alive
     Button* BtnProgram = nullptr;
     Button* BtnAlarm = nullptr;
     Button* BtnSync = nullptr;

@@ -8,6 +8,32 @@
 namespace {
 constexpr int kCaptionSize = 15;
 const char* const kPictureType = "png";
+
+// The direction bricks: a cross of four above a row of five.
+struct Brick {
+    Button* Frame_MoveMent::*field;
+    qint32 x, y;
+    const char* picture;
+    const char* name;
+    ButtonCallback action;
+};
+const Brick kBricks[] = {
+    {&Frame_MoveMent::BtnMoveUp, 234, 339, "ButtonArrowUp", "Move up", Frame_Movement_MoveUpBtnAcion},
+    {&Frame_MoveMent::BtnMoveLeft, 170, 377, "ButtonArrowLeft", "Move left", Frame_Movement_MoveLeftBtnAcion},
+    {&Frame_MoveMent::BtnMoveDown, 234, 413, "ButtonArrowDown", "Move down", Frame_Movement_MoveDownBtnAcion},
+    {&Frame_MoveMent::BtnMoveRight, 299, 377, "ButtonArrowRight", "Move right",
+     Frame_Movement_MoveRightBtnAcion},
+    {&Frame_MoveMent::BtnTurnRight, 111, 497, "ButtonArrowTurnRight", "Turn right",
+     Frame_Movement_TrunRightBtnAcion},
+    {&Frame_MoveMent::BtnTrunLeft, 175, 497, "ButtonArrowTurnLeft", "Turn left",
+     Frame_Movement_TurnLeftBtnAcion},
+    {&Frame_MoveMent::BtnCircleLeft, 239, 497, "ButtonArrowArroundLeft", "Circle left",
+     Frame_Movement_CircleLeftBtnAcion},
+    {&Frame_MoveMent::BtnCircleRight, 304, 497, "ButtonArrowArroundRight", "Circle right",
+     Frame_Movement_CircleRightBtnAcion},
+    {&Frame_MoveMent::BtnStop, 366, 497, "ButtonArrowStop", "Stop", Frame_Movement_StopBtnAcion},
+};
+
 } // namespace
 
 Frame_MoveMent::Frame_MoveMent(const NSRect& frame) : NSViewS(frame) {
@@ -41,91 +67,53 @@ void Frame_MoveMent::TextInit() {
 }
 
 void Frame_MoveMent::ButtonInit() {
-    // clang-format off
-    Layout::Build(this, {
-        Layout::HelpButton(&BtnQuestion, MakeNSRect(57, 37, 29, 28)),
-        // This screen's own tab looks chosen whatever the pointer does.
-        {.button = &BtnMoveMent, .frame = MakeNSRect(498, 199, 64, 63),
-         .up = "movement_over", .move = "movement_over", .down = "movement_over"},
-        {.button = &BtnSound, .frame = MakeNSRect(663, 199, 64, 63),
-         .up = "sound", .move = "sound_over", .down = "sound_over"},
-        {.button = &BtnLazer, .frame = MakeNSRect(733, 199, 64, 63),
-         .up = "lazer", .move = "lazer_over", .down = "lazer_over"},
-        {.button = &BtnFace, .frame = MakeNSRect(802, 199, 64, 63),
-         .up = "face", .move = "face_over", .down = "face_over"},
-        {.button = &BtnPlay, .frame = MakeNSRect(873, 199, 64, 63),
-         .up = "play", .move = "play_over", .down = "play_over"},
-        // The bricks: a cross of four above a row of five.
-        {.button = &BtnMoveUp, .frame = MakeNSRect(234, 339, 62, 62),
-         .up = "ButtonArrowUp_common", .move = "ButtonArrowUp_focus", .down = "ButtonArrowUp_focus"},
-        {.button = &BtnMoveLeft, .frame = MakeNSRect(170, 377, 62, 62),
-         .up = "ButtonArrowLeft_common", .move = "ButtonArrowLeft_focus", .down = "ButtonArrowLeft_focus"},
-        {.button = &BtnMoveDown, .frame = MakeNSRect(234, 413, 62, 62),
-         .up = "ButtonArrowDown_common", .move = "ButtonArrowDown_focus", .down = "ButtonArrowDown_focus"},
-        {.button = &BtnMoveRight, .frame = MakeNSRect(299, 377, 62, 62),
-         .up = "ButtonArrowRight_common", .move = "ButtonArrowRight_focus", .down = "ButtonArrowRight_focus"},
-        {.button = &BtnTurnRight, .frame = MakeNSRect(111, 497, 62, 62),
-         .up = "ButtonArrowTurnRight_common", .move = "ButtonArrowTurnRight_focus",
-         .down = "ButtonArrowTurnRight_focus"},
-        {.button = &BtnTrunLeft, .frame = MakeNSRect(175, 497, 62, 62),
-         .up = "ButtonArrowTurnLeft_common", .move = "ButtonArrowTurnLeft_focus",
-         .down = "ButtonArrowTurnLeft_focus"},
-        {.button = &BtnCircleLeft, .frame = MakeNSRect(239, 497, 62, 62),
-         .up = "ButtonArrowArroundLeft_common", .move = "ButtonArrowArroundLeft_focus",
-         .down = "ButtonArrowArroundLeft_focus"},
-        {.button = &BtnCircleRight, .frame = MakeNSRect(304, 497, 62, 62),
-         .up = "ButtonArrowArroundRight_common", .move = "ButtonArrowArroundRight_focus",
-         .down = "ButtonArrowArroundRight_focus"},
-        {.button = &BtnStop, .frame = MakeNSRect(366, 497, 62, 62),
-         .up = "ButtonArrowStop_common", .move = "ButtonArrowStop_focus", .down = "ButtonArrowStop_focus"},
-        {.button = &BtnSelectBar, .frame = MakeNSRect(100, 612, 344, 44),
-         .up = "SelectBarArrow_common", .move = "SelectBarArrow_focus", .down = "SelectBarArrow_focus"},
-        // The small arrows: a second cross, partly under the path view.
-        {.button = &BtnArrowUp, .frame = MakeNSRect(867, 586, 36, 38),
-         .up = "ButtonSmallCircleUp_common", .move = "ButtonSmallCircleUp_focus",
-         .down = "ButtonSmallCircleUp_focus"},
-        {.button = &BtnArrowLeft, .frame = MakeNSRect(835, 609, 36, 38),
-         .up = "ButtonSmallCircleLeft_common", .move = "ButtonSmallCircleLeft_focus",
-         .down = "ButtonSmallCircleLeft_focus"},
-        {.button = &BtnArrowDown, .frame = MakeNSRect(867, 632, 36, 38),
-         .up = "ButtonSmallCircleDown_common", .move = "ButtonSmallCircleDown_focus",
-         .down = "ButtonSmallCircleDown_focus"},
-        {.button = &BtnArrowRight, .frame = MakeNSRect(898, 609, 36, 38),
-         .up = "ButtonSmallCircleRight_common", .move = "ButtonSmallCircleRight_focus",
-         .down = "ButtonSmallCircleRight_focus"},
-        {.button = &BtnErase, .frame = MakeNSRect(515, 712, 93, 40),
-         .up = "but_common_long_left_BtnSilver", .move = "but_common_long_left_over_BtnSilver",
-         .down = "but_common_long_left_over_BtnSilver",
-         .caption = {"Erase", NSColor::grayColor(), MakeNSRect(22, 11, 46, 18), kCaptionSize}},
-        {.button = &BtnRetPlay, .frame = MakeNSRect(606, 712, 93, 40),
-         .up = "but_common_long_right_BtnSilver", .move = "but_common_long_right_over_BtnSilver",
-         .down = "but_common_long_right_over_BtnSilver"},
-        Layout::SilverButton(&BtnBack, MakeNSRect(715, 712, 85, 40), {"Back", NSColor::blackColor(), MakeNSRect(17, 11, 50, 16), kCaptionSize}),
-    });
-    // clang-format on
+    Layout::Build(this, {Layout::HelpButton(&BtnQuestion, MakeNSRect(57, 37, 29, 28))});
+    Layout::BuildTabs(this, {.fields = {&BtnMoveMent, &BtnSound, &BtnLazer, &BtnFace, &BtnPlay},
+                             .x = {498, 663, 733, 802, 873},
+                             .current = Layout::Tab::Movement});
+
+    for (const Brick& brick : kBricks) {
+        Button** field = &(this->*brick.field);
+        *field = Layout::MakeButton(this,
+                                    Layout::Family(field, MakeNSRect(brick.x, brick.y, 62, 62), brick.picture,
+                                                   "_common", "_focus", "_focus", brick.name));
+    }
+
+    const auto arrow = [](Button** field, qint32 x, qint32 y, const char* picture, const char* name) {
+        return Layout::Family(field, MakeNSRect(x, y, 36, 38), picture, "_common", "_focus", "_focus", name);
+    };
+    const Layout::Caption erase{"Erase", NSColor::grayColor(), MakeNSRect(22, 11, 46, 18), kCaptionSize};
+    const Layout::Caption back{"Back", NSColor::blackColor(), MakeNSRect(17, 11, 50, 16), kCaptionSize};
+    Layout::Build(this,
+                  {
+                      Layout::Family(&BtnSelectBar, MakeNSRect(100, 612, 344, 44), "SelectBarArrow",
+                                     "_common", "_focus", "_focus", "Choose scenario"),
+                      // The small arrows: a second cross, partly under the path view.
+                      arrow(&BtnArrowUp, 867, 586, "ButtonSmallCircleUp", "Arrow up"),
+                      arrow(&BtnArrowLeft, 835, 609, "ButtonSmallCircleLeft", "Arrow left"),
+                      arrow(&BtnArrowDown, 867, 632, "ButtonSmallCircleDown", "Arrow down"),
+                      arrow(&BtnArrowRight, 898, 609, "ButtonSmallCircleRight", "Arrow right"),
+                      Layout::Family(&BtnErase, MakeNSRect(515, 712, 93, 40), "but_common_long_left_",
+                                     "BtnSilver", "over_BtnSilver", "over_BtnSilver", nullptr, erase),
+                      Layout::Family(&BtnRetPlay, MakeNSRect(606, 712, 93, 40), "but_common_long_right_",
+                                     "BtnSilver", "over_BtnSilver", "over_BtnSilver", "Replay"),
+                      Layout::SilverButton(&BtnBack, MakeNSRect(715, 712, 85, 40), back),
+                  });
 }
 
 void Frame_MoveMent::InitInterWorking() {
     BtnSound->InitButtonAction(Frame_Movement_SoundBtnAcion, this);
     BtnBack->InitButtonAction(Frame_Movement_BackBtnAcion, this);
     BtnLazer->InitButtonAction(Frame_Movement_LazerBtnAcion, this);
-    BtnMoveUp->InitButtonAction(Frame_Movement_MoveUpBtnAcion, this);
-    BtnMoveLeft->InitButtonAction(Frame_Movement_MoveLeftBtnAcion, this);
-    BtnMoveDown->InitButtonAction(Frame_Movement_MoveDownBtnAcion, this);
-    BtnMoveRight->InitButtonAction(Frame_Movement_MoveRightBtnAcion, this);
-    BtnTurnRight->InitButtonAction(Frame_Movement_TrunRightBtnAcion, this);
-    BtnTrunLeft->InitButtonAction(Frame_Movement_TurnLeftBtnAcion, this);
-    BtnCircleLeft->InitButtonAction(Frame_Movement_CircleLeftBtnAcion, this);
-    BtnCircleRight->InitButtonAction(Frame_Movement_CircleRightBtnAcion, this);
-    BtnStop->InitButtonAction(Frame_Movement_StopBtnAcion, this);
+    for (const Brick& brick : kBricks) (this->*brick.field)->InitButtonAction(brick.action, this);
 }
 
 void Frame_MoveMent::InitPathFrame() {
     NSRect rect;
     SetNSRect(&rect, 514, 273, 392, 349);
     // Draws nothing of its own: the screen shows through between the pieces.
-    PathInfo.frmPath = new NSViewS(rect);
-    addSubview(PathInfo.frmPath);
+    frmPath = new NSViewS(rect);
+    addSubview(frmPath);
 }
 
 void Frame_MoveMent::ButtonTrackingOn() {
@@ -136,41 +124,24 @@ void Frame_MoveMent::ButtonTrackingOn() {
 }
 
 void Frame_MoveMent::SetPath(qint32 command) {
-    if (PathInfo.iItemCnt == 0) {
-        // An unknown command still draws a first piece: the image slot 0 already holds.
-        if (const auto image = PathPlacement::FirstPieceImage(command)) PathInfo.Item[0].iImgNO = *image;
-        SetPathImageFirst();
-        return;
-    }
-    if (const auto image = PathPlacement::LaterPieceImage(command)) SetPathImageNormal(*image);
+    ShowPiece(PathInfo.SetPath(command, frmPath->frame().height));
 }
 
 void Frame_MoveMent::SetPathImageFirst() {
-    if (!PathInfo.frmPath || PathInfo.iItemCnt >= PathPlacement::kMaxPieces) return;
-    const qint32 image = PathInfo.Item[0].iImgNO;
-    if (!PathPlacement::IsImage(image)) return;
-    PathInfo.iDirect = PathPlacement::FirstDirect(image);
-    AddPiece(image, PathPlacement::FirstFrame(image, PathInfo.frmPath->frame().height));
+    ShowPiece(PathInfo.SetPathImageFirst(frmPath->frame().height));
 }
 
 void Frame_MoveMent::SetPathImageNormal(qint32 image) {
-    const qint32 count = PathInfo.iItemCnt;
-    // Placement needs a newest piece, and a full path takes no more.
-    if (!PathInfo.frmPath || count <= 0 || count >= PathPlacement::kMaxPieces) return;
-    const PATHITEMSTRUCT& newest = PathInfo.Item[count - 1];
-    if (!PathPlacement::IsImage(image) || !PathPlacement::IsImage(newest.iImgNO) || !newest.PathImg) return;
-    const NSRect frame = PathPlacement::NextFrame(newest.iImgNO, newest.PathImg->frame(), image);
-    PathInfo.Item[count].iImgNO = image;
-    PathInfo.iDirect = iPathDirectOutTable[image];
-    AddPiece(image, frame);
+    ShowPiece(PathInfo.SetPathImageNormal(image));
 }
 
-void Frame_MoveMent::AddPiece(qint32 image, const NSRect& frame) {
-    auto* piece = new NSImageViewS(frame);
-    PathInfo.Item[PathInfo.iItemCnt].PathImg = piece;
-    piece->InitImage(QString::fromLatin1(strPathImgNameTable[image]), QString::fromLatin1(kPictureType),
-                     static_cast<int>(frame.width), static_cast<int>(frame.height), PathInfo.frmPath);
-    ++PathInfo.iItemCnt;
+void Frame_MoveMent::ShowPiece(const std::optional<PATHITEMSTRUCT>& piece) {
+    if (!piece) return;
+    auto* view = new NSImageViewS(piece->frame);
+    PathImg[PathInfo.iItemCnt - 1] = view;
+    view->InitImage(QString::fromLatin1(strPathImgNameTable[piece->iImgNO]),
+                    QString::fromLatin1(kPictureType), static_cast<int>(piece->frame.width),
+                    static_cast<int>(piece->frame.height), frmPath);
 }
 
 void Frame_Movement_SoundBtnAcion(void* context, Button*) {

@@ -4,6 +4,8 @@
 #include "FRAMESRECORD.h"
 #include "PATHMAINSTRUCT.h"
 
+#include <optional>
+
 class QLineEdit;
 
 // The movement editor: tabs to the other editors, nine direction bricks, and the path view in
@@ -17,9 +19,7 @@ public:
     // showing it.
     void ButtonTrackingOn() override;
 
-    // One more piece for a movement command (0..8). On an empty path any command draws the first
-    // piece (an unknown one draws whatever slot 0 holds); on a path with pieces an unknown
-    // command, or any command once the path is full, changes nothing.
+    // What the path adds for a command (or an image), shown in the path view.
     void SetPath(qint32 command);
     void SetPathImageFirst();
     void SetPathImageNormal(qint32 image);
@@ -52,6 +52,8 @@ public:
     Button* BtnBack = nullptr;
     FRAMESRECORD frmFrameRec;
     PATHMAINSTRUCT PathInfo;
+    NSViewS* frmPath = nullptr;
+    NSImageViewS* PathImg[PathPlacement::kMaxPieces] = {}; // the view of each piece of PathInfo
 
 private:
     // Construction steps, in this order; the path view comes last so it lies above everything.
@@ -60,8 +62,8 @@ private:
     void InitInterWorking();
     void InitPathFrame();
 
-    // Makes the view of the piece in slot iItemCnt and counts it.
-    void AddPiece(qint32 image, const NSRect& frame);
+    // Makes the view of the piece the path has just added, if it added one.
+    void ShowPiece(const std::optional<PATHITEMSTRUCT>& piece);
 };
 
 void Frame_Movement_SoundBtnAcion(void* context, Button* button);

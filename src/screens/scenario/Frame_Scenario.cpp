@@ -63,14 +63,18 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
 
     InitView();
     ButtonTrackingOn();
-    if (numOfList == 0) BtnModify->setHidden(true);
+    if (!canModify()) BtnModify->setHidden(true);
 }
 
 void Frame_Scenario::InitView() {
     InitCreateScenarioView();
     InitLoadScenarioView();
-    frmCreateScenarioView->setHidden(true);
-    frmLoadScenarioView->setHidden(true);
+    ShowPage();
+}
+
+void Frame_Scenario::ShowPage() {
+    frmCreateScenarioView->setHidden(page != Page::Create);
+    frmLoadScenarioView->setHidden(page != Page::List);
 }
 
 void Frame_Scenario::InitCreateScenarioView() {
@@ -98,7 +102,7 @@ void Frame_Scenario::InitCreateScenarioView() {
                     .down = "but_selected_Btn01",
                     .caption = {"Create", NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16}}});
     BtnNewCreate->InitButtonAction(Frame_Scenario_GoMoveMentBtnAction, this);
-    BtnNewCreate->SetEnable(0);
+    BtnNewCreate->SetEnable(bCreateEnabled ? 1 : 0);
 }
 
 void Frame_Scenario::InitLoadScenarioView() {
@@ -107,36 +111,26 @@ void Frame_Scenario::InitLoadScenarioView() {
     addSubview(frmLoadScenarioView);
 
     for (qint32 r = 0; r < kRows; ++r) {
-        const char* bar = r == 0 ? kHighlightBar : nullptr;
+        const char* bar = r == indexShow ? kHighlightBar : nullptr;
         BtnScenarioName[r] = Layout::MakeButton(
             frmLoadScenarioView,
             {.frame = MakeNSRect(0, 36 * r, 414, 39), .up = bar, .move = bar, .down = bar});
-        SetNameCaption(r, name(r));
+        SetNameCaption(r, name(firstShown() + r));
         BtnScenarioName[r]->RegisterHover();
     }
 
-    Layout::Build(frmLoadScenarioView, {
-                                           {.button = &BtnUpList,
-                                            .frame = MakeNSRect(212, 328, 48, 25),
-                                            .up = "ButtonSelectBarUp_common",
-                                            .move = "ButtonSelectBarUp_focus",
-                                            .down = "ButtonSelectBarUp_focus"},
-                                           {.button = &BtnDownList,
-                                            .frame = MakeNSRect(262, 328, 48, 25),
-                                            .up = "ButtonSelectBarDown_common",
-                                            .move = "ButtonSelectBarDown_focus",
-                                            .down = "ButtonSelectBarDown_focus"},
-                                           {.button = &BtnX,
-                                            .frame = MakeNSRect(312, 328, 48, 25),
-                                            .up = "Btn_X_up",
-                                            .move = "Btn_X_move",
-                                            .down = "Btn_X_move"},
-                                           {.button = &BtnGo,
-                                            .frame = MakeNSRect(362, 328, 48, 25),
-                                            .up = "Btn_Go_up",
-                                            .move = "Btn_Go_focus",
-                                            .down = "Btn_Go_focus"},
-                                       });
+    const auto listButton = [](Button** field, qint32 x, const char* base, const char* up, const char* move,
+                               const char* name) {
+        return Layout::Family(field, MakeNSRect(x, 328, 48, 25), base, up, move, move, name);
+    };
+    Layout::Build(
+        frmLoadScenarioView,
+        {
+            listButton(&BtnUpList, 212, "ButtonSelectBarUp", "_common", "_focus", "Scenario list up"),
+            listButton(&BtnDownList, 262, "ButtonSelectBarDown", "_common", "_focus", "Scenario list down"),
+            listButton(&BtnX, 312, "Btn_X", "_up", "_move", "Delete scenario"),
+            listButton(&BtnGo, 362, "Btn_Go", "_up", "_focus", "Go"),
+        });
 
     const ButtonCallback nameActions[kRows] = {Frame_Scenario_NameBtnAction0, Frame_Scenario_NameBtnAction1,
                                                Frame_Scenario_NameBtnAction2, Frame_Scenario_NameBtnAction3,
@@ -171,8 +165,8 @@ void Frame_Scenario::SetNameCaption(qint32 row, const QString& text) {
 
 void Frame_Scenario::ApplyRowChange(const RowChange& change) {
     if (change.listEmptied) {
-        frmLoadScenarioView->setHidden(true);
-        BtnModify->setHidden(true);
+        ShowPage();
+        BtnModify->setHidden(!canModify());
         return;
     }
     if (change.hideRow >= 0 && change.hideRow < kRows) BtnScenarioName[change.hideRow]->setHidden(true);
@@ -184,31 +178,31 @@ void Frame_Scenario::ApplyRowChange(const RowChange& change) {
 void Frame_Scenario_CreateBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(false);
-    screen->frmLoadScenarioView->setHidden(true);
+    screen->CreateAction();
+    screen->ShowPage();
 }
 
 void Frame_Scenario_ModifyBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(true);
-    screen->frmLoadScenarioView->setHidden(false);
+    screen->ModifyAction();
+    screen->ShowPage();
     screen->ButtonTrackingOn();
 }
 
 void Frame_Scenario_GoMoveMentBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(true);
-    screen->frmLoadScenarioView->setHidden(true);
+    screen->Leave();
+    screen->ShowPage();
     ScreenHost::Follow(screen, Route::ScenarioGo);
 }
 
 void Frame_Scenario_BackBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->frmCreateScenarioView->setHidden(true);
-    screen->frmLoadScenarioView->setHidden(true);
+    screen->Leave();
+    screen->ShowPage();
     ScreenHost::Follow(screen, Route::ScenarioBack);
 }
 

@@ -22,6 +22,8 @@ public:
     // Hover registrations of the screen's buttons, made after the screen is shown.
     void ButtonTrackingOn() override;
 
+    // Opens the view the model has open, and closes the other.
+    void ShowPage();
     // Carries out on the name rows what the list asked for.
     void ApplyRowChange(const RowChange& change);
     void MarkRow(qint32 row);

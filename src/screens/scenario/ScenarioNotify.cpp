@@ -15,7 +15,7 @@ void ScenarioNotify::setDelegateOf(QLineEdit* field) {
 void ScenarioNotify::controlTextDidChange(const QLineEdit* field) {
     if (!scenario || !field || !scenario->BtnNewCreate) return;
     Button* create = scenario->BtnNewCreate;
-    if (field->text().isEmpty()) {
+    if (!scenario->NameChanged(field->text())) {
         create->SetEnable(0);
         return;
     }

@@ -1,0 +1,170 @@
+#include "ScenarioList.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+namespace {
+
+// The seven rows as a screen keeps them, changed only as the list's answers say.
+struct Rows {
+    QString caption[ScenarioList::kRows];
+    bool bar[ScenarioList::kRows] = {true};
+    bool hidden[ScenarioList::kRows] = {};
+    bool listShown = true;
+
+    explicit Rows(const ScenarioList& list) {
+        for (int r = 0; r < ScenarioList::kRows; ++r) caption[r] = list.name(r);
+    }
+
+    void apply(const ScenarioList::RowChange& change, const ScenarioList& list) {
+        listShown = listShown && !change.listEmptied;
+        if (change.hideRow >= 0) hidden[change.hideRow] = true;
+        if (change.markRow >= 0)
+            for (int r = 0; r < list.shownRows(); ++r) bar[r] = r == change.markRow;
+        for (int r = change.captionFrom; r < change.captionTo; ++r)
+            caption[r] = list.name(list.firstShown() + r);
+    }
+
+    QString shown() const {
+        QStringList names;
+        for (int r = 0; r < ScenarioList::kRows; ++r)
+            if (!hidden[r]) names << (bar[r] ? QLatin1Char('[') + caption[r] + QLatin1Char(']') : caption[r]);
+        return names.join(QLatin1Char(' '));
+    }
+};
+
+// "D*6 U 3 X*2": Down six times, Up, choose row 3, remove twice.
+void Run(ScenarioList& list, Rows& rows, const QString& steps) {
+    for (const QString& token : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const QStringList parts = token.split(QLatin1Char('*'));
+        for (int i = parts.size() > 1 ? parts[1].toInt() : 1; i > 0; --i) {
+            const QChar op = parts[0].at(0);
+            rows.apply(op == QLatin1Char('U')   ? list.Up()
+                       : op == QLatin1Char('D') ? list.Down()
+                       : op == QLatin1Char('X') ? list.Remove()
+                                                : list.ChooseRow(op.digitValue()),
+                       list);
+        }
+    }
+}
+
+} // namespace
+
+// The twenty names behind seven rows: what the rows show, which name is chosen, and how the
+// list shrinks.
+class TestScenarioList : public QObject {
+    Q_OBJECT
+private slots:
+    void sequences_data() {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("rows"); // top down, the highlighted one in brackets
+        QTest::addColumn<int>("indexChoose");
+        QTest::addColumn<int>("numOfList");
+        QTest::newRow("filled") << ""
+                                << "[0] 1 2 3 4 5 6" << 0 << 20;
+        QTest::newRow("down moves the bar") << "D*6"
+                                            << "0 1 2 3 4 5 [6]" << 6 << 20;
+        QTest::newRow("down from the last row scrolls") << "D*7"
+                                                        << "1 2 3 4 5 6 [7]" << 7 << 20;
+        QTest::newRow("down stops at the last name") << "D*25"
+                                                     << "13 14 15 16 17 18 [19]" << 19 << 20;
+        QTest::newRow("up stops at the first name") << "U*3 D"
+                                                    << "0 [1] 2 3 4 5 6" << 1 << 20;
+        QTest::newRow("up from the top row scrolls back") << "D*8 U*7"
+                                                          << "[1] 2 3 4 5 6 7" << 1 << 20;
+        QTest::newRow("a row keeps the first shown name") << "D*11 3"
+                                                          << "5 6 7 [8] 9 10 11" << 8 << 20;
+        QTest::newRow("removal moves the next name up") << "D*2 X"
+                                                        << "0 1 [3] 4 5 6 7" << 2 << 19;
+        QTest::newRow("removal at the end keeps the rows in the list")
+            << "D*19 X"
+            << "12 13 14 15 16 17 [18]" << 18 << 19;
+        QTest::newRow("six names hide the last row") << "X*14"
+                                                     << "[14] 15 16 17 18 19" << 0 << 6;
+        QTest::newRow("a short list stops at its last name") << "X*14 D*9"
+                                                             << "14 15 16 17 18 [19]" << 5 << 6;
+        QTest::newRow("removing the last of a short list") << "X*14 D*5 X"
+                                                           << "14 15 16 17 [18]" << 4 << 5;
+        QTest::newRow("removing inside a short list") << "X*14 D*2 X"
+                                                      << "14 15 [17] 18 19" << 2 << 5;
+        QTest::newRow("one name left") << "D*19 X*19"
+                                       << "[0]" << 0 << 1;
+    }
+    void sequences() {
+        QFETCH(QString, steps);
+        QFETCH(QString, rows);
+        QFETCH(int, indexChoose);
+        QFETCH(int, numOfList);
+        ScenarioList list;
+        list.Fill();
+        Rows shown(list);
+        Run(list, shown, steps);
+        QCOMPARE(shown.shown(), rows);
+        QCOMPARE(list.indexChoose, indexChoose);
+        QCOMPARE(list.numOfList, numOfList);
+        QVERIFY(shown.listShown);
+    }
+
+    // Any run of operations keeps the chosen name in the highlighted row and every row within
+    // the list, until the last name goes and the list closes.
+    void anyRunStaysConsistent() {
+        for (quint32 seed = 1; seed <= 50; ++seed) {
+            QRandomGenerator random(seed);
+            ScenarioList list;
+            list.Fill();
+            list.ModifyAction();
+            Rows rows(list);
+            while (list.canModify()) {
+                const QString ops[] = {"U", "D", "X", QString::number(random.bounded(list.shownRows()))};
+                Run(list, rows, ops[random.bounded(4)]);
+                if (!list.canModify()) break;
+                QVERIFY2(list.isConsistent(), qPrintable(QString("seed %1").arg(seed)));
+                QCOMPARE(rows.bar[list.indexShow], true);
+                QCOMPARE(rows.caption[list.indexShow], list.name(list.indexChoose));
+            }
+            QVERIFY(!rows.listShown);
+            QCOMPARE(list.page, ScenarioList::Page::Choice);
+            // An empty list ignores everything.
+            QVERIFY(list.Up().isNothing() && list.Down().isNothing() && list.Remove().isNothing());
+        }
+    }
+
+    void pages_data() {
+        QTest::addColumn<QString>("actions"); // C: create, M: modify, L: leave
+        QTest::addColumn<ScenarioList::Page>("page");
+        using P = ScenarioList::Page;
+        QTest::newRow("at first") << "" << P::Choice;
+        QTest::newRow("create") << "C" << P::Create;
+        QTest::newRow("modify after create") << "CM" << P::List;
+        QTest::newRow("leaving closes the view") << "ML" << P::Choice;
+    }
+    void pages() {
+        QFETCH(QString, actions);
+        QFETCH(ScenarioList::Page, page);
+        ScenarioList list;
+        for (const QChar a : actions)
+            a == QLatin1Char('C')   ? list.CreateAction()
+            : a == QLatin1Char('M') ? list.ModifyAction()
+                                    : list.Leave();
+        QCOMPARE(list.page, page);
+    }
+
+    void createNeedsAName_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("empty") << "" << false;
+        QTest::newRow("a space") << " " << true;
+        QTest::newRow("a name already listed") << "3" << true;
+    }
+    void createNeedsAName() {
+        QFETCH(QString, name);
+        QFETCH(bool, enabled);
+        ScenarioList list;
+        list.NameChanged(QStringLiteral("x"));
+        QCOMPARE(list.NameChanged(name), enabled);
+        QCOMPARE(list.bCreateEnabled, enabled);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestScenarioList)
+#include "tst_scenariolist.moc"
