@@ -29,7 +29,7 @@ Frame_MoveMent* OpenMovement(AppHarness& app) {
 }
 
 bool WaitIdle(const Frame_Sound* sound) {
-    return QTest::qWaitFor([sound] { return sound->SoundContent.timer == nullptr; }, kScrollWaitMs);
+    return QTest::qWaitFor([sound] { return sound->Timeline.timer == nullptr; }, kScrollWaitMs);
 }
 
 // What a full path looks like, so that any write past its end or into its start shows.
@@ -115,13 +115,14 @@ private slots:
         QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
         const AppInvariants invariants(app.root());
         const SOUNDSETCONTENT& c = sound->SoundContent;
+        const SoundTimeline& t = sound->Timeline;
 
         for (int i = 0; i < kSoundContentItemMax; ++i) {
             app.click(sound->BtnButton[Frame_Sound::kBtnSoundFirst + i % 12]);
             QVERIFY(WaitIdle(sound));
         }
-        QCOMPARE(c.iItemNum, kSoundContentItemMax);
-        QCOMPARE(c.iPageNumber, 42);
+        QCOMPARE(t.iItemNum, kSoundContentItemMax);
+        QCOMPARE(t.iPageNumber, 42);
         QCOMPARE(invariants.check(), QStringList());
         Button* const firstItem = c.Item.BtnButton[0];
         Button* const lastItem = c.Item.BtnButton[kSoundContentItemMax - 1];
@@ -137,9 +138,9 @@ private slots:
             app.click(sound->BtnButton[Frame_Sound::kBtnPageNext]);
         }
         for (qint32 bad : {-1, 36, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()})
-            sound->SetSoundContent(bad);
-        sound->SetSoundContent(0);
-        QCOMPARE(c.iItemNum, kSoundContentItemMax);
+            sound->Timeline.SetSoundContent(bad);
+        sound->Timeline.SetSoundContent(0);
+        QCOMPARE(t.iItemNum, kSoundContentItemMax);
         QCOMPARE(c.frmSoundContent->children().size(), children);
         QCOMPARE(c.Item.BtnButton[0], firstItem);
         QCOMPARE(c.Item.BtnButton[kSoundContentItemMax - 1], lastItem);
@@ -152,11 +153,11 @@ private slots:
         // A page back, then one more choice: still 512, and the timeline returns to the last page.
         app.click(sound->BtnButton[Frame_Sound::kBtnContentUp]);
         QVERIFY(WaitIdle(sound));
-        QCOMPARE(c.iPageNumber, 41);
+        QCOMPARE(t.iPageNumber, 41);
         app.click(sound->BtnButton[Frame_Sound::kBtnSoundFirst]);
         QVERIFY(WaitIdle(sound));
-        QCOMPARE(c.iPageNumber, 42);
-        QCOMPARE(c.iItemNum, kSoundContentItemMax);
+        QCOMPARE(t.iPageNumber, 42);
+        QCOMPARE(t.iItemNum, kSoundContentItemMax);
         QCOMPARE(invariants.check(), QStringList());
         QVERIFY(app.grab(QStringLiteral("/tmp/reliability-full-timeline.png")));
 

@@ -123,8 +123,8 @@ void Run(AppHarness& app, Walk route) {
         Frame_Sound* sound = root->frmSound;
         QCOMPARE(app.shownScreen(), static_cast<QWidget*>(sound));
         for (int i : {10, 14, 21}) app.click(sound->BtnButton[i]);
-        QCOMPARE(sound->SoundContent.iItemNum, 3);
-        QCOMPARE(sound->iCurSoundSet, 21);
+        QCOMPARE(sound->Timeline.iItemNum, 3);
+        QCOMPARE(sound->Board.iCurSoundSet, 21);
         return;
     }
     case LazerChoice: {

@@ -103,7 +103,7 @@ void Press(Button* button) {
 
 // A timeline scroll ignores new sounds while it runs; both ways of pressing wait for it alike.
 void Settle(Frame_Control* root) {
-    QTRY_VERIFY_WITH_TIMEOUT(!root->frmSound->SoundContent.timer, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(!root->frmSound->Timeline.timer, 20000);
 }
 
 // Everything a press can change that stays put once the press is over: which screen shows,
