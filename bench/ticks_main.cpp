@@ -196,9 +196,9 @@ Result RobotSlideFrames(int samples) {
 
 static void TimelineTick(Frame_Sound* sound, bool towardLater) {
     if (towardLater)
-        sound->SoundContentItemDown();
+        sound->Timeline.SoundContentItemDown();
     else
-        sound->SoundContentItemUP();
+        sound->Timeline.SoundContentItemUP();
     QCoreApplication::processEvents();
 }
 
@@ -233,21 +233,21 @@ std::vector<Result> TimelineScroll(int samples) {
     App app;
     Frame_Sound* sound = app.root->frmSound;
     app.showOnly(sound);
-    for (qint32 i = 0; i < kSoundContentItemMax; ++i) sound->SetSoundContent(i % 36);
+    for (qint32 i = 0; i < kSoundContentItemMax; ++i) sound->Timeline.SetSoundContent(i % 36);
     Flush();
-    SOUNDSETCONTENT& content = sound->SoundContent;
-    Bench::PaintCounter paints(content.frmSoundContent);
+    SoundTimeline& timeline = sound->Timeline;
+    Bench::PaintCounter paints(sound->SoundContent.frmSoundContent);
 
     // A page request as the page buttons make it, its timer stopped: the ticks are ours to call.
     auto request = [&](qint32 page) {
-        sound->SoundContentMoveToPage(page);
-        if (content.timer) content.timer->stop();
-        return content.timer != nullptr;
+        sound->Timeline.SoundContentMoveToPage(page);
+        if (timeline.timer) timeline.timer->stop();
+        return timeline.timer != nullptr;
     };
     auto scrollTo = [&](qint32 page, const std::function<void(bool)>& tick) {
-        const bool later = page > content.iPageNumber;
+        const bool later = page > timeline.iPageNumber;
         if (!request(page)) return;
-        while (content.timer) tick(later);
+        while (timeline.timer) tick(later);
         Flush();
     };
     // Start from the end of a long timeline, where the user is after adding 512 items.
@@ -296,7 +296,7 @@ std::vector<Result> TimelineScroll(int samples) {
         paintCount += paints.count() - before;
         ++ticks;
         result.floor.push_back(Measure([&] { BenchTimelineFloorTick(&floor); }));
-        if (!content.timer) {
+        if (!timeline.timer) {
             arriving.measured.push_back(measured.back());
             arriving.floor.push_back(result.floor.back());
         }

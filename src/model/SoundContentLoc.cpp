@@ -30,10 +30,6 @@ constexpr Link kSlotLinks[kSoundContentPageSize] = {
 
 } // namespace
 
-qint32 SoundContentPageOf(qint32 itemIndex) {
-    return itemIndex < 0 ? -1 : itemIndex / kSoundContentPageSize;
-}
-
 SoundContentLoc GetSoundContentLoc(qint32 n, qint32 pageShown) {
     SoundContentLoc loc;
     if (n < 0) return loc;

@@ -6,8 +6,8 @@
 // three, each with its number at its top left corner and a short bar linking it to the item
 // before it. Pure arithmetic, so the screen and its tests share one rule.
 struct SoundContentLoc {
-    NSRect SizeLoc;    // the item button, 111 by 46
-    NSRect NumberText; // the number caption, 24 by 14
+    NSRect SizeLoc;    // the item button, its picture 111 by 46
+    NSRect NumberText; // the number caption, its text 24 by 14
     NSRect LinkBar;    // 14 by 3 (kind 0) or 3 by 14 (kind 1)
     qint32 LinkBarType = 0;
 
@@ -23,9 +23,6 @@ inline constexpr qint32 kSoundContentScrollStep = 20;
 // Link bar kinds: a horizontal bar joining the item beside, a vertical one joining the item above.
 inline constexpr qint32 kLinkBarHorizontal = 0;
 inline constexpr qint32 kLinkBarVertical = 1;
-
-// The page an item lies on; items before the first have none (-1).
-qint32 SoundContentPageOf(qint32 itemIndex);
 
 // The rule for item n while page `pageShown` is on view; items of other pages lie a whole page
 // pitch above or below per page of difference. A negative n has no place: all rectangles empty.

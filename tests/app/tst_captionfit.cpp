@@ -64,7 +64,8 @@ const struct {
      [](Frame_Control* r) {
          for (int page = 1; page < kSoundSetPageCount; ++page)
              Frame_Sound_PageNextBtnAcion(r->frmSound, nullptr);
-         for (int i = 0; i < kSoundContentItemMax; ++i) r->frmSound->SetSoundContent(i % kSoundSetCount);
+         for (int i = 0; i < kSoundContentItemMax; ++i)
+             r->frmSound->Timeline.SetSoundContent(i % kSoundSetCount);
      }},
 };
 

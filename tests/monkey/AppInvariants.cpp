@@ -205,46 +205,47 @@ QStringList AppInvariants::checkTimeline() const {
     const Frame_Sound* sound = m_root->frmSound;
     if (!sound || !sound->SoundContent.frmSoundContent) return {QStringLiteral("timeline missing")};
     const SOUNDSETCONTENT& c = sound->SoundContent;
-    if (c.iItemNum < 0 || c.iItemNum > kSoundContentItemMax)
-        return {QStringLiteral("timeline holds %1 items").arg(c.iItemNum)};
+    const SoundTimeline& t = sound->Timeline;
+    if (t.iItemNum < 0 || t.iItemNum > kSoundContentItemMax)
+        return {QStringLiteral("timeline holds %1 items").arg(t.iItemNum)};
     for (qint32 i = 0; i < kSoundContentItemMax; ++i) {
-        const bool used = i < c.iItemNum;
+        const bool used = i < t.iItemNum;
         if ((c.Item.BtnButton[i] != nullptr) != used || (c.Item.strNumber[i] != nullptr) != used ||
             (c.Item.imgLinkBar[i] != nullptr) != used) {
-            broken << QStringLiteral("timeline slot %1 out of step with %2 items").arg(i).arg(c.iItemNum);
+            broken << QStringLiteral("timeline slot %1 out of step with %2 items").arg(i).arg(t.iItemNum);
             return broken;
         }
         if (used && c.Item.strNumber[i]->captionText() != QString::number(i + 1))
             broken
                 << QStringLiteral("item %1 numbered \"%2\"").arg(i).arg(c.Item.strNumber[i]->captionText());
     }
-    if (ChildWidgets(c.frmSoundContent) != 3 * c.iItemNum)
+    if (ChildWidgets(c.frmSoundContent) != 3 * t.iItemNum)
         broken << QStringLiteral("timeline view has %1 children for %2 items")
                       .arg(ChildWidgets(c.frmSoundContent))
-                      .arg(c.iItemNum);
-    const qint32 lastPage = c.iItemNum > 0 ? (c.iItemNum - 1) / kSoundContentPageSize : 0;
-    if (c.iPageNumber < 0 || c.iPageNumber > lastPage)
-        broken << QStringLiteral("timeline on page %1 of 0..%2").arg(c.iPageNumber).arg(lastPage);
-    if (c.timer && !c.timer->isActive()) broken << QStringLiteral("a scroll timer is kept but stopped");
-    if (!c.timer) {
+                      .arg(t.iItemNum);
+    const qint32 lastPage = t.iItemNum > 0 ? (t.iItemNum - 1) / kSoundContentPageSize : 0;
+    if (t.iPageNumber < 0 || t.iPageNumber > lastPage)
+        broken << QStringLiteral("timeline on page %1 of 0..%2").arg(t.iPageNumber).arg(lastPage);
+    if (t.timer && !t.timer->isActive()) broken << QStringLiteral("a scroll timer is kept but stopped");
+    if (!t.timer) {
         // At rest every item stands where the layout rule puts it for the page on view.
-        for (qint32 i = 0; i < c.iItemNum; ++i) {
-            const SoundContentLoc loc = GetSoundContentLoc(i, c.iPageNumber);
+        for (qint32 i = 0; i < t.iItemNum; ++i) {
+            const SoundContentLoc loc = GetSoundContentLoc(i, t.iPageNumber);
             if (c.Item.BtnButton[i]->frame() != loc.SizeLoc ||
                 c.Item.strNumber[i]->frame() != loc.NumberText ||
                 c.Item.imgLinkBar[i]->frame() != loc.LinkBar) {
                 broken << QStringLiteral("item %1 at %2 on page %3 at rest")
                               .arg(i)
                               .arg(RectText(c.Item.BtnButton[i]->frame()))
-                              .arg(c.iPageNumber);
+                              .arg(t.iPageNumber);
                 break;
             }
         }
     }
     const Button* up = sound->BtnButton[Frame_Sound::kBtnContentUp];
     const Button* down = sound->BtnButton[Frame_Sound::kBtnContentDown];
-    if (up && down && (Shown(up) != (c.iItemNum > 0) || Shown(down) != (c.iItemNum > 0)))
-        broken << QStringLiteral("timeline arrows shown out of step with %1 items").arg(c.iItemNum);
+    if (up && down && (Shown(up) != (t.iItemNum > 0) || Shown(down) != (t.iItemNum > 0)))
+        broken << QStringLiteral("timeline arrows shown out of step with %1 items").arg(t.iItemNum);
     return broken;
 }
 
@@ -252,9 +253,9 @@ QStringList AppInvariants::checkSoundButtons() const {
     QStringList broken;
     const Frame_Sound* sound = m_root->frmSound;
     if (!sound) return {};
-    if (sound->iCurSoundSetPage < 0 || sound->iCurSoundSetPage >= kSoundSetPageCount)
-        return {QStringLiteral("sound set page %1").arg(sound->iCurSoundSetPage)};
-    for (qint32 set : {sound->iCurSoundSet, sound->iLastSoundSet})
+    if (sound->Board.iCurSoundSetPage < 0 || sound->Board.iCurSoundSetPage >= kSoundSetPageCount)
+        return {QStringLiteral("sound set page %1").arg(sound->Board.iCurSoundSetPage)};
+    for (qint32 set : {sound->Board.iCurSoundSet, sound->Board.iLastSoundSet})
         if (set < Frame_Sound::kBtnSoundFirst || set > Frame_Sound::kBtnSoundLast)
             broken << QStringLiteral("sound button index %1").arg(set);
     for (qint32 i = Frame_Sound::kBtnSoundFirst; i <= Frame_Sound::kBtnSoundLast; ++i) {
@@ -262,16 +263,16 @@ QStringList AppInvariants::checkSoundButtons() const {
         if (!b) continue;
         const qint32 k = i - Frame_Sound::kBtnSoundFirst;
         const QString name =
-            QString::fromLatin1(SoundSetName(kSoundSetPageSize * sound->iCurSoundSetPage + k));
+            QString::fromLatin1(SoundSetName(kSoundSetPageSize * sound->Board.iCurSoundSetPage + k));
         if (b->captionText() != name)
             broken << QStringLiteral("sound button %1 shows \"%2\" on page %3")
                           .arg(i)
                           .arg(b->captionText())
-                          .arg(sound->iCurSoundSetPage);
-        if (b->BtnImageUp.name() == QLatin1String(kSoundMark) && i != sound->iCurSoundSet)
+                          .arg(sound->Board.iCurSoundSetPage);
+        if (b->BtnImageUp.name() == QLatin1String(kSoundMark) && i != sound->Board.iCurSoundSet)
             broken << QStringLiteral("sound button %1 marked while %2 is chosen")
                           .arg(i)
-                          .arg(sound->iCurSoundSet);
+                          .arg(sound->Board.iCurSoundSet);
     }
     return broken;
 }

@@ -40,7 +40,7 @@ bool Confirming(const Frame_Control* root) {
 }
 
 bool Scrolling(const Frame_Control* root) {
-    return root->frmSound->SoundContent.timer != nullptr;
+    return root->frmSound->Timeline.timer != nullptr;
 }
 
 } // namespace
@@ -146,7 +146,7 @@ MonkeyResult RunMonkey(quint64 seed, qint64 inputs, const MonkeyProgress& progre
         if (confirming && !wasConfirming) ++result.confirmations;
         wasConfirming = confirming;
         result.mostPathPieces = qMax(result.mostPathPieces, root->frmMovement->PathInfo.iItemCnt);
-        result.mostTimelineItems = qMax(result.mostTimelineItems, root->frmSound->SoundContent.iItemNum);
+        result.mostTimelineItems = qMax(result.mostTimelineItems, root->frmSound->Timeline.iItemNum);
         result.fewestListNames = qMin(result.fewestListNames, root->frmScenario->numOfList);
         result.longestName =
             qMax(result.longestName, static_cast<int>(root->frmScenario->txtScenarioName->text().size()));

@@ -48,17 +48,16 @@ const Case kCases[] = {
     {"path past its end", [](Frame_Control* r) { r->frmMovement->PathInfo.iItemCnt = 513; },
      "path holds 513"},
     {"path counter ahead", [](Frame_Control* r) { r->frmMovement->PathInfo.iItemCnt = 1; }, "out of step"},
-    {"timeline past its end", [](Frame_Control* r) { r->frmSound->SoundContent.iItemNum = 513; },
+    {"timeline past its end", [](Frame_Control* r) { r->frmSound->Timeline.iItemNum = 513; },
      "timeline holds 513"},
-    {"timeline counter ahead", [](Frame_Control* r) { r->frmSound->SoundContent.iItemNum = 2; },
-     "out of step"},
+    {"timeline counter ahead", [](Frame_Control* r) { r->frmSound->Timeline.iItemNum = 2; }, "out of step"},
     {"item out of place",
      [](Frame_Control* r) {
          r->frmSound->SoundSet(Frame_Sound::kBtnSoundFirst);
          r->frmSound->SoundContent.Item.BtnButton[0]->setFrame(MakeNSRect(0, 5, 111, 46));
      },
      "item 0 at (0, 5, 111, 46)"},
-    {"sound set page past the last", [](Frame_Control* r) { r->frmSound->iCurSoundSetPage = 3; },
+    {"sound set page past the last", [](Frame_Control* r) { r->frmSound->Board.iCurSoundSetPage = 3; },
      "sound set page 3"},
     {"mark on a button not chosen",
      [](Frame_Control* r) {

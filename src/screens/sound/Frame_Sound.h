@@ -1,13 +1,15 @@
 #pragma once
 
+#include "Button.h"
 #include "FRAMESRECORD.h"
 #include "NSImageViewS.h"
 #include "SOUNDSETCONTENT.h"
-
-class Button;
+#include "SoundSetBoard.h"
+#include "SoundTimeline.h"
 
 // The sound brick editor: twelve sound buttons showing one of three sound set pages, and the
-// timeline the chosen sounds are laid on.
+// timeline the chosen sounds are laid on. The screen shows the state of its two models and
+// passes the user's presses in.
 class Frame_Sound : public NSViewS {
     Q_OBJECT
 public:
@@ -23,8 +25,8 @@ public:
         kBtnPageNext = 7,
         kBtnContentUp = 8,
         kBtnContentDown = 9,
-        kBtnSoundFirst = 10,
-        kBtnSoundLast = 21,
+        kBtnSoundFirst = SoundSetBoard::kSoundButtonFirst,
+        kBtnSoundLast = SoundSetBoard::kSoundButtonLast,
         kBtnSelectBar = 22,
         kBtnVolumeMinus = 23,
         kBtnVolumePlus = 24,
@@ -34,9 +36,6 @@ public:
         kButtonCount = 28,
     };
     static constexpr qint32 kTextCount = 16;
-    // Scroll directions of SoundContentTimerOn.
-    static constexpr qint32 kScrollToEarlier = 8;
-    static constexpr qint32 kScrollToLater = 9;
 
     explicit Frame_Sound(const NSRect& frame);
 
@@ -45,56 +44,50 @@ public:
     void InitInterWorking();
     // Hover registrations of the screen's buttons, made after the screen is shown.
     void ButtonTrackingOn() override;
+    void InitSoundContent();
 
     void SoundSet(qint32 button);
     void SoundSetImg();
-
-    // The timeline.
-    void InitSoundContent();
-    void SetSoundContent(qint32 sound);
-    void GetSoundContentLoc(qint32 n, NSRect* SizeLoc, NSRect* NumberText, NSRect* LinkBar,
-                            qint32* LinkBarType) const;
-    void SoundContentMoveToPage(qint32 page);
-    void SoundContentTimerOn(qint32 direction);
-    void SoundContentItemUP();
-    void SoundContentItemDown();
-
-    // Scroll ticks run since the screen was made; lets tests count a scroll's steps.
-    qint64 scrollTickCount() const { return m_scrollTicks; }
+    // Every sound button shows the names of the current sound set page.
+    void ShowSoundSetPage();
 
     NSImageViewS* imgBackGround = nullptr;
     NSImageViewS* txtString[kTextCount] = {};
-    qint32 iCurSoundSet = kBtnSoundFirst;
-    qint32 iLastSoundSet = kBtnSoundFirst;
-    qint32 iCurSoundSetPage = 0;
     Button* BtnButton[kButtonCount] = {};
     FRAMESRECORD frmFrameRec;
     SOUNDSETCONTENT SoundContent;
+    SoundTimeline Timeline;
+    SoundSetBoard Board{&Timeline};
 
 private:
-    void SoundContentTick(qint32 step);
+    void SoundContentItemMade(qint32 n, qint32 sound);
+    void SoundContentItemsScrolled(qint32 dy);
     void SoundContentPlaceItems();
-
-    qint64 m_scrollTicks = 0;
 };
 
 void Frame_Sound_MoveMentBtnAcion(void* context, Button* button);
 void Frame_Sound_BackBtnAcion(void* context, Button* button);
 void Frame_Sound_LazerBtnAcion(void* context, Button* button);
-void Frame_Sound_Sound1_1BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound1_2BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound1_3BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound2_1BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound2_2BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound2_3BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound3_1BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound3_2BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound3_3BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound4_1BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound4_2BtnAcion(void* context, Button* button);
-void Frame_Sound_Sound4_3BtnAcion(void* context, Button* button);
 void Frame_Sound_PagePreBtnAcion(void* context, Button* button);
 void Frame_Sound_PageNextBtnAcion(void* context, Button* button);
 void Frame_Sound_SoundContentUpBtnAction(void* context, Button* button);
 void Frame_Sound_SoundContentDownBtnAction(void* context, Button* button);
 void Frame_Sound_SoundContentBtnAction(void* context, Button* button);
+
+// Each sound button passes its own index to SoundSet: the one of row r, column c is
+// button 10 + 3 (r - 1) + (c - 1).
+template <qint32 b> void Frame_Sound_SoundBtnAcion(void* context, Button*) {
+    if (context) static_cast<Frame_Sound*>(context)->SoundSet(b);
+}
+inline constexpr ButtonCallback Frame_Sound_Sound1_1BtnAcion = Frame_Sound_SoundBtnAcion<10>;
+inline constexpr ButtonCallback Frame_Sound_Sound1_2BtnAcion = Frame_Sound_SoundBtnAcion<11>;
+inline constexpr ButtonCallback Frame_Sound_Sound1_3BtnAcion = Frame_Sound_SoundBtnAcion<12>;
+inline constexpr ButtonCallback Frame_Sound_Sound2_1BtnAcion = Frame_Sound_SoundBtnAcion<13>;
+inline constexpr ButtonCallback Frame_Sound_Sound2_2BtnAcion = Frame_Sound_SoundBtnAcion<14>;
+inline constexpr ButtonCallback Frame_Sound_Sound2_3BtnAcion = Frame_Sound_SoundBtnAcion<15>;
+inline constexpr ButtonCallback Frame_Sound_Sound3_1BtnAcion = Frame_Sound_SoundBtnAcion<16>;
+inline constexpr ButtonCallback Frame_Sound_Sound3_2BtnAcion = Frame_Sound_SoundBtnAcion<17>;
+inline constexpr ButtonCallback Frame_Sound_Sound3_3BtnAcion = Frame_Sound_SoundBtnAcion<18>;
+inline constexpr ButtonCallback Frame_Sound_Sound4_1BtnAcion = Frame_Sound_SoundBtnAcion<19>;
+inline constexpr ButtonCallback Frame_Sound_Sound4_2BtnAcion = Frame_Sound_SoundBtnAcion<20>;
+inline constexpr ButtonCallback Frame_Sound_Sound4_3BtnAcion = Frame_Sound_SoundBtnAcion<21>;

@@ -11,6 +11,4 @@ struct SOUNDSETCONTENTITEM {
     Button* BtnButton[kSoundContentItemMax] = {};
     NSImageViewS* strNumber[kSoundContentItemMax] = {};
     NSImageViewS* imgLinkBar[kSoundContentItemMax] = {};
-    // The item whose arrival at the top row ends the running scroll: the target page's first.
-    qint32 iItemTargetNum = 0;
 };

@@ -1,0 +1,141 @@
+#include "Frame_Sound.h"
+
+#include "LayoutTable.h"
+#include "NSColor.h"
+#include "ScreenHost.h"
+#include "SoundPictures.h"
+
+#include <QByteArray>
+
+namespace {
+
+const char* const kLinkBarPictures[2] = {"smallbarH", "smallbarV"};
+
+// Moves a view by one scroll step, keeping its frame on whole points.
+void ScrollView(NSViewS* view, qint32 dy) {
+    if (view) view->setFrame(SoundContentScrolled(view->frame(), dy));
+}
+
+void PlaceView(NSViewS* view, const NSRect& frame) {
+    if (view) view->setFrame(frame);
+}
+
+} // namespace
+
+void Frame_Sound::SoundSet(qint32 button) {
+    if (Board.SoundSet(button)) SoundSetImg();
+}
+
+void Frame_Sound::SoundSetImg() {
+    for (qint32 i : {Board.iCurSoundSet, Board.iLastSoundSet}) {
+        if (!SoundSetBoard::IsSoundButton(i) || !BtnButton[i]) continue;
+        const SoundPictures pictures = SoundPictures::Of(Board.MarkOn(i));
+        BtnButton[i]->InitImage(pictures.up, pictures.over, pictures.over, "png", this);
+    }
+}
+
+void Frame_Sound::ShowSoundSetPage() {
+    for (qint32 i = kBtnSoundFirst; i <= kBtnSoundLast; ++i)
+        Layout::SetCaption(BtnButton[i], SoundPictures::Caption(Board.SoundOf(i)));
+}
+
+void Frame_Sound::SoundContentItemMade(qint32 n, qint32 sound) {
+    SOUNDSETCONTENT& c = SoundContent;
+    if (!c.frmSoundContent) return;
+    const SoundContentLoc loc = Timeline.GetSoundContentLoc(n);
+
+    Button* item = Layout::MakeButton(
+        c.frmSoundContent,
+        {.frame = loc.SizeLoc,
+         .up = SoundPictures::kMark,
+         .move = "but_over_Btn01",
+         .down = "but_over_Btn01",
+         .caption = {SoundSetName(sound), NSColor::grayColor(), MakeNSRect(17, 11, 50, 16), 14}});
+    item->InitButtonAction(Frame_Sound_SoundContentBtnAction, this);
+    // Made once, where the item stands now: an item laid out of view gets an empty registration.
+    item->RegisterHover();
+    c.Item.BtnButton[n] = item;
+
+    const QByteArray number = QByteArray::number(n + 1);
+    c.Item.strNumber[n] = Layout::MakeView(
+        c.frmSoundContent,
+        {.frame = loc.NumberText,
+         .caption = {number.constData(), NSColor::orangeColor(), MakeNSRect(0, 0, 24, 14), 12}});
+    c.Item.imgLinkBar[n] = Layout::MakeView(
+        c.frmSoundContent,
+        {.frame = loc.LinkBar, .up = kLinkBarPictures[loc.LinkBarType == kLinkBarVertical ? 1 : 0]});
+
+    // The timeline's arrows appear with its first item.
+    Button* up = BtnButton[kBtnContentUp];
+    Button* down = BtnButton[kBtnContentDown];
+    if (up && down && up->isHidden()) {
+        up->setHidden(false);
+        down->setHidden(false);
+        RegisterHover({up, down});
+    }
+}
+
+void Frame_Sound::SoundContentItemsScrolled(qint32 dy) {
+    SOUNDSETCONTENTITEM& items = SoundContent.Item;
+    // Qt folds the moves of one tick into a single repaint of the timeline at the next pass of
+    // the event loop. Holding updates off meanwhile (setUpdatesEnabled) costs more than it saves:
+    // turning them back on asks every one of up to 1536 children for its own update.
+    for (qint32 i = 0; i < kSoundContentItemMax && items.BtnButton[i]; ++i) {
+        ScrollView(items.BtnButton[i], dy);
+        ScrollView(items.strNumber[i], dy);
+        ScrollView(items.imgLinkBar[i], dy);
+    }
+    if (SoundContent.frmSoundContent) SoundContent.frmSoundContent->update();
+}
+
+void Frame_Sound::SoundContentPlaceItems() {
+    SOUNDSETCONTENTITEM& items = SoundContent.Item;
+    for (qint32 i = 0; i < kSoundContentItemMax && items.BtnButton[i]; ++i) {
+        const SoundContentLoc loc = Timeline.GetSoundContentLoc(i);
+        PlaceView(items.BtnButton[i], loc.SizeLoc);
+        PlaceView(items.strNumber[i], loc.NumberText);
+        PlaceView(items.imgLinkBar[i], loc.LinkBar);
+    }
+}
+
+// Callbacks: the context is always the screen.
+
+namespace {
+
+Frame_Sound* Screen(void* context) {
+    return static_cast<Frame_Sound*>(context);
+}
+
+} // namespace
+
+void Frame_Sound_MoveMentBtnAcion(void* context, Button*) {
+    if (Frame_Sound* sound = Screen(context)) ScreenHost::Follow(sound, Route::SoundMovement);
+}
+
+void Frame_Sound_BackBtnAcion(void* context, Button* button) {
+    Frame_Sound_MoveMentBtnAcion(context, button);
+}
+
+void Frame_Sound_LazerBtnAcion(void* context, Button*) {
+    if (Frame_Sound* sound = Screen(context)) ScreenHost::Follow(sound, Route::SoundLazer);
+}
+
+void Frame_Sound_PagePreBtnAcion(void* context, Button*) {
+    Frame_Sound* sound = Screen(context);
+    if (sound && sound->Board.PagePre()) sound->ShowSoundSetPage();
+}
+
+void Frame_Sound_PageNextBtnAcion(void* context, Button*) {
+    Frame_Sound* sound = Screen(context);
+    if (sound && sound->Board.PageNext()) sound->ShowSoundSetPage();
+}
+
+void Frame_Sound_SoundContentUpBtnAction(void* context, Button*) {
+    if (Frame_Sound* sound = Screen(context)) sound->Timeline.SoundContentUp();
+}
+
+void Frame_Sound_SoundContentDownBtnAction(void* context, Button*) {
+    if (Frame_Sound* sound = Screen(context)) sound->Timeline.SoundContentDown();
+}
+
+void Frame_Sound_SoundContentBtnAction(void*, Button*) {}
