@@ -106,7 +106,7 @@ void Run(AppHarness& app, Walk route) {
         app.click(Centre(app, a->BtnBack));
         QCOMPARE(app.shownScreen(), static_cast<QWidget*>(a));
         QVERIFY(
-            QTest::qWaitFor([a] { return a->frmDoneView->isHidden(); }, 2 * Frame_Alarm::kConfirmationMs));
+            QTest::qWaitFor([a] { return a->frmDoneView->isHidden(); }, 2 * AlarmFlow::kConfirmationMs));
         QVERIFY(a->frmChooseView->isVisible());
         QCOMPARE(a->BtnBirthdayStatus->captionText(), QStringLiteral("Birthday alarm:On"));
         return;

@@ -125,10 +125,10 @@ QStringList Signature(const AppHarness& app) {
     }
     lines << QStringLiteral("lazer type %1").arg(app.root()->frmLazer->LazerType);
     lines << QStringLiteral("alarm %1 %2 %3 %4")
-                 .arg(app.root()->frmAlarm->flagBirthdayWakeup)
-                 .arg(app.root()->frmAlarm->enableBirthday)
-                 .arg(app.root()->frmAlarm->enableWakeup)
-                 .arg(app.root()->frmAlarm->typeFrequency);
+                 .arg(app.root()->frmAlarm->flow.flagBirthdayWakeup())
+                 .arg(app.root()->frmAlarm->flow.enableBirthday())
+                 .arg(app.root()->frmAlarm->flow.enableWakeup())
+                 .arg(app.root()->frmAlarm->flow.typeFrequency());
     return lines;
 }
 
