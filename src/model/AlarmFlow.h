@@ -11,7 +11,7 @@
 
 // The alarm clock's settings and the way through its pages: the choose page with the two
 // statuses, one page per alarm, and the confirmation that holds the screen for a while after
-// Done. Each action is what the user just did; `changed` follows every one of them.
+// Done. Each action is what the user just did; `changed` follows every one that took effect.
 class AlarmFlow : public QObject {
     Q_OBJECT
 public:

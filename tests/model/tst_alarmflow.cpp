@@ -9,7 +9,7 @@
 
 namespace {
 
-// A value in a spec without a zone, so the texts are the same on any machine, any day.
+// Values in UTC, with no zone to move them, so the texts are the same on any machine, any day.
 const QDateTime kMade(QDate(2009, 3, 7), QTime(7, 5, 59), QTimeZone::utc());
 const QDateTime kPicked(QDate(1999, 12, 31), QTime(23, 59), QTimeZone::utc());
 

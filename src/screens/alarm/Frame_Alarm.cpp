@@ -14,7 +14,7 @@ namespace {
 const QDate kFirstPickableDay(1752, 9, 14);
 const QDate kLastPickableDay(9999, 12, 31);
 
-// What the clock on the wall says now, in the spec the pickers hold their values in.
+// What the clock on the wall says now, as the pickers hold it: in UTC, with no zone to move it.
 QDateTime WallClockNow() {
     const QDateTime now = QDateTime::currentDateTime();
     return QDateTime(now.date(), now.time(), Qt::UTC);
