@@ -293,12 +293,14 @@ QStringList AppInvariants::checkAlarm() const {
     QStringList broken;
     const Frame_Alarm* a = m_root->frmAlarm;
     if (!a) return {};
-    if (a->flagBirthdayWakeup < 0 || a->flagBirthdayWakeup > 2)
-        broken << QStringLiteral("alarm page flag %1").arg(a->flagBirthdayWakeup);
-    if ((a->enableBirthday != 0 && a->enableBirthday != 1) || (a->enableWakeup != 0 && a->enableWakeup != 1))
-        broken << QStringLiteral("alarm switches %1 and %2").arg(a->enableBirthday).arg(a->enableWakeup);
-    if (a->typeFrequency < 0 || a->typeFrequency > 2)
-        broken << QStringLiteral("wake-up frequency %1").arg(a->typeFrequency);
+    const AlarmFlow& flow = a->flow;
+    if (flow.flagBirthdayWakeup() < 0 || flow.flagBirthdayWakeup() > 2)
+        broken << QStringLiteral("alarm page flag %1").arg(flow.flagBirthdayWakeup());
+    if ((flow.enableBirthday() != 0 && flow.enableBirthday() != 1) ||
+        (flow.enableWakeup() != 0 && flow.enableWakeup() != 1))
+        broken << QStringLiteral("alarm switches %1 and %2").arg(flow.enableBirthday()).arg(flow.enableWakeup());
+    if (flow.typeFrequency() < 0 || flow.typeFrequency() > 2)
+        broken << QStringLiteral("wake-up frequency %1").arg(flow.typeFrequency());
 
     static const QRegularExpression date(QStringLiteral("^\\d{4}/\\d{2}/\\d{2}$"));
     static const QRegularExpression time(QStringLiteral("^\\d{2}/\\d{2}$"));
@@ -307,9 +309,9 @@ QStringList AppInvariants::checkAlarm() const {
         const Button* button;
         const QRegularExpression* form;
     } texts[] = {
-        {&a->formattedBirthDateString, a->BtnBirthDate, &date},
-        {&a->formattedBirthTimeString, a->BtnBirthTime, &time},
-        {&a->formattedWakeupTimeString, a->BtnWakeupTime, &time},
+        {&flow.formattedBirthDateString(), a->BtnBirthDate, &date},
+        {&flow.formattedBirthTimeString(), a->BtnBirthTime, &time},
+        {&flow.formattedWakeupTimeString(), a->BtnWakeupTime, &time},
     };
     for (const auto& t : texts) {
         if (!t.form->match(*t.text).hasMatch())
@@ -320,7 +322,7 @@ QStringList AppInvariants::checkAlarm() const {
     }
 
     const bool confirming = Shown(a->frmDoneView);
-    const bool timerRuns = a->timer && a->timer->isActive();
+    const bool timerRuns = flow.timer()->isActive();
     if (confirming != timerRuns)
         broken << QStringLiteral("confirmation page %1 while its timer %2")
                       .arg(confirming ? QStringLiteral("shown") : QStringLiteral("hidden"))

@@ -77,8 +77,7 @@ const Case kCases[] = {
      "robot configuration 5"},
     {"confirmation without its timer", [](Frame_Control* r) { r->frmAlarm->frmDoneView->setHidden(false); },
      "confirmation page shown"},
-    {"malformed date text",
-     [](Frame_Control* r) { r->frmAlarm->formattedBirthDateString = QStringLiteral("2024/1/1"); },
+    {"malformed date text", [](Frame_Control* r) { r->frmAlarm->flow.SetBirthDate(QDateTime()); },
      "malformed"},
     {"time button out of step",
      [](Frame_Control* r) {

@@ -171,7 +171,7 @@ bool ScreenTour::alarm() {
     if (!alarm->frmDoneView->isVisible()) return fail(QStringLiteral("no confirmation page"));
     if (!stop(QStringLiteral("alarm-confirmation"))) return false;
     if (!QTest::qWaitFor([alarm] { return alarm->frmChooseView->isVisible(); },
-                         Frame_Alarm::kConfirmationMs + 10000))
+                         AlarmFlow::kConfirmationMs + 10000))
         return fail(QStringLiteral("the confirmation page never went"));
     return stop(QStringLiteral("alarm-choose-after"));
 }

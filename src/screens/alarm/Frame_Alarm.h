@@ -1,21 +1,16 @@
 #pragma once
 
+#include "AlarmFlow.h"
 #include "Button.h"
-#include "DateFormatter.h"
-
-#include <QString>
-
-#include <memory>
 
 class QDateEdit;
 class QDateTimeEdit;
 class QTimeEdit;
-class QTimer;
 
 // The alarm clock: a choose page with the two alarm statuses, a birthday page (on/off, date,
 // time), a wake-up page (on/off, time, frequency) and a confirmation page shown for a while
-// after Done. The pages are sub-views shown and hidden; nothing is made or destroyed after
-// construction but the date formatters and the confirmation timers.
+// after Done. The pages are sub-views shown and hidden as `flow` says; nothing is made or
+// destroyed after construction.
 class Frame_Alarm : public NSViewS {
     Q_OBJECT
 public:
@@ -37,13 +32,11 @@ public:
     void InitBackBtnToChooseInterWorking();
     // The choose page's buttons, as the screen is opened.
     void ButtonTrackingOn() override;
-    // The statuses and the description of the choose page, and Back leading to the main menu.
-    void ChoosePageRefresh();
-    // Leaves the confirmation page (or Done with the alarm off) for the choose page.
-    void DoneView();
+    // Makes what is on view, the pictures, the captions and Back's target agree with `flow`.
+    void Refresh();
 
-    // How long the confirmation page stays after Done.
-    static constexpr int kConfirmationMs = 5000;
+    // The settings and the page on view; the callbacks pass what the user does into it.
+    AlarmFlow flow;
 
     NSImageViewS* txtSiteTitle = nullptr;
     NSImageViewS* txtChooseTitle = nullptr;
@@ -54,7 +47,6 @@ public:
     NSImageViewS* txtFieldGround = nullptr;
     NSImageViewS* txtBirthTimeFieldGround = nullptr;
     NSImageViewS* txtWakeupTimeFieldGround = nullptr;
-    QTimer* timer = nullptr; // the last confirmation timer
     NSImageViewS* imgDoneBackGround = nullptr;
     NSImageViewS* txtDoneSiteTitle = nullptr;
     NSImageViewS* txtDoneBigTitle = nullptr;
@@ -95,30 +87,13 @@ public:
     QDateEdit* txtBirthDate = nullptr;
     QTimeEdit* txtBirthTime = nullptr;
     QTimeEdit* txtWakeupTime = nullptr;
-    std::unique_ptr<DateFormatter> forBirthDateFormatter;
-    std::unique_ptr<DateFormatter> forBirthTimeFormatter;
-    std::unique_ptr<DateFormatter> forWakeupTimeFormatter;
-    qint32 flagBirthdayWakeup = 0; // 0 no alarm page yet, 1 birthday page last, 2 wake-up page last
-    qint32 enableBirthday = 0;
-    qint32 enableWakeup = 0;
-    qint32 typeFrequency = 0; // 0 "Once", 1 "Daily", 2 "Friday To Monday"
-    QString formattedBirthDateString;
-    QString formattedBirthTimeString;
-    QString formattedWakeupTimeString;
 
 private:
     // One editor: its sub-view over the shared place, the "textbox" background, the picker
-    // showing the given elements at the moment the screen was made, the first text, and Set.
+    // showing the given elements at the value the flow holds, and Set.
     void InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTimeEdit* picker, int elements,
-                      std::unique_ptr<DateFormatter>& formatter, const char* format, QString& text,
-                      Button*& setButton);
-
-    QDateTime m_createdAt; // what every picker starts at
+                      const QDateTime& value, Button*& setButton);
 };
-
-// Formats of the texts shown on the date and time buttons: fields apart by a slash, the time too.
-inline const char* const kAlarmDateFormat = "%Y/%m/%d";
-inline const char* const kAlarmTimeFormat = "%H/%M";
 
 void Frame_Alarm_BirthdayBtnAction(void* context, Button* button);
 void Frame_Alarm_WakeupBtnAction(void* context, Button* button);

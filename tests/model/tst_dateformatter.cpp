@@ -1,0 +1,55 @@
+#include "DateFormatter.h"
+
+#include <QTest>
+#include <QTimeZone>
+
+#include <ctime>
+
+// The strftime-style formatter behind the alarm's date and time texts.
+class TestDateFormatter : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() {
+        // A zone half an hour off the hour, east of UTC, so that "local" cannot pass by accident.
+        qputenv("TZ", "XST-5:30");
+        tzset();
+    }
+
+    void formats_data() {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QDateTime>("moment");
+        QTest::addColumn<QString>("expected");
+
+        const auto local = [](int y, int mo, int d, int h, int mi, int s = 0) {
+            return QDateTime(QDate(y, mo, d), QTime(h, mi, s));
+        };
+        QTest::newRow("date, zero padded") << "%Y/%m/%d" << local(2009, 3, 7, 12, 0) << "2009/03/07";
+        QTest::newRow("time with a slash") << "%H/%M" << local(2009, 3, 7, 7, 5) << "07/05";
+        QTest::newRow("afternoon is 24-hour") << "%H/%M" << local(2009, 3, 7, 13, 45) << "13/45";
+        QTest::newRow("seconds are not rounded") << "%H/%M" << local(2009, 3, 7, 7, 5, 59) << "07/05";
+        QTest::newRow("literal text kept")
+            << "at %H:%M on %d." << local(2009, 3, 7, 7, 5) << "at 07:05 on 07.";
+        QTest::newRow("empty format") << "" << local(2009, 3, 7, 7, 5) << "";
+        QTest::newRow("invalid moment") << "%Y/%m/%d" << QDateTime() << "";
+        QTest::newRow("longer than the first buffer")
+            << QString("%Y/%m/%d ").repeated(100) << local(2009, 3, 7, 7, 5)
+            << QString("2009/03/07 ").repeated(100);
+        // The value's own fields are written, whatever its spec: a picker's date is never moved
+        // through the local zone.
+        QTest::newRow("UTC, first pickable day")
+            << "%Y/%m/%d %H/%M" << QDateTime(QDate(1752, 9, 14), QTime(0, 0), QTimeZone::utc())
+            << "1752/09/14 00/00";
+        QTest::newRow("offset east of UTC")
+            << "%Y/%m/%d %H/%M" << QDateTime(QDate(2011, 12, 30), QTime(0, 5), QTimeZone(14 * 3600))
+            << "2011/12/30 00/05";
+    }
+    void formats() {
+        QFETCH(QString, format);
+        QFETCH(QDateTime, moment);
+        QFETCH(QString, expected);
+        QCOMPARE(DateFormatter(format, false).stringFromDate(moment), expected);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDateFormatter)
+#include "tst_dateformatter.moc"
