@@ -5,6 +5,8 @@
 #include <QStringList>
 
 class AppHarness;
+class Button;
+class QDateTimeEdit;
 
 // A walk through every screen and page of the app in its real window, clicking where a user
 // clicks, with one screenshot per stop.
@@ -22,6 +24,8 @@ private:
     bool scenario();
     bool editors();
     bool alarm();
+    // Opens a picker's editor, gives the picker the tour's fixed moment, and sets it.
+    void setValue(Button* open, QDateTimeEdit* picker, Button* set);
 
     // Parks the pointer on bare background (so no button is lit) and writes NN-name.png.
     bool stop(const QString& name);

@@ -60,33 +60,12 @@ void Frame_Sound::ButtonInit() {
     Button** b = BtnButton;
     // The same small arrows turn the sound set pages and the timeline's pages; the timeline's
     // wait, hidden, for the first item.
+    Layout::Build(this, {Layout::HelpButton(&b[0], MakeNSRect(57, 37, 29, 28))});
+    Layout::BuildTabs(
+        this, {.fields = {&b[kBtnMoveMent], &b[kBtnSoundTab], &b[kBtnLazer], &b[kBtnFace], &b[kBtnPlay]},
+               .x = {515, 589, 722, 792, 863},
+               .current = Layout::Tab::Sound});
     Layout::Build(this, {
-                            Layout::HelpButton(&b[0], MakeNSRect(57, 37, 29, 28)),
-                            {.button = &b[1],
-                             .frame = MakeNSRect(515, 199, 64, 63),
-                             .up = "movement",
-                             .move = "movement_over",
-                             .down = "movement_over"},
-                            {.button = &b[2],
-                             .frame = MakeNSRect(589, 199, 64, 63),
-                             .up = "sound_over",
-                             .move = "sound_over",
-                             .down = "sound_over"},
-                            {.button = &b[3],
-                             .frame = MakeNSRect(722, 199, 64, 63),
-                             .up = "lazer",
-                             .move = "lazer_over",
-                             .down = "lazer_over"},
-                            {.button = &b[4],
-                             .frame = MakeNSRect(792, 199, 64, 63),
-                             .up = "face",
-                             .move = "face_over",
-                             .down = "face_over"},
-                            {.button = &b[5],
-                             .frame = MakeNSRect(863, 199, 64, 63),
-                             .up = "play",
-                             .move = "play_over",
-                             .down = "play_over"},
                             Family(&b[6], MakeNSRect(235, 288, 36, 38), "ButtonSmallCircleLeft", "_common",
                                    "_focus", "_focus", "Previous sound page"),
                             Family(&b[7], MakeNSRect(276, 288, 36, 38), "ButtonSmallCircleRight", "_common",
