@@ -18,4 +18,4 @@ export QT_QPA_PLATFORM=offscreen
 export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:intercept_tls_get_addr=0"
 export LSAN_OPTIONS="suppressions=$root/scripts/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
-exec "$build/tests/monkey/robot-monkey" --inputs 100000 "$@"
+exec "$build/tools/robot-monkey" --inputs 100000 "$@"

@@ -11,19 +11,17 @@ class AppHarness;
 class QWidget;
 
 // Random input for the real window, made the way hands make it: pointer moves, presses and
-// releases anywhere, drags, double clicks, keystrokes and pasted text, all sent in at the
-// window and taken by the application's event loop, whose timers keep running in between.
-// Half of the pointer work aims at the controls of the screen on view, or the run would stay on
-// the first screen; everything is drawn from one generator seeded by the caller, so a seed
-// replays the same stream of choices.
+// releases anywhere, drags, double clicks, keystrokes and pasted text, all sent in at the window
+// and taken by the application's event loop, whose timers keep running in between. Most pointer
+// work aims at the controls of the screen on view, or the run would stay on the first screen.
+// Everything is drawn from one generator seeded by the caller, so a seed replays the same run.
 class Monkey {
 public:
     enum Kind {
         ClickControl,
-        MoveToControl,
-        MoveAnywhere,
         ClickAnywhere,
         DoubleClick,
+        Move,
         Drag,
         StrayPress,
         StrayRelease,
@@ -35,47 +33,33 @@ public:
         KindCount
     };
 
-    Monkey(AppHarness& app, quint64 seed);
+    Monkey(AppHarness& app, quint64 seed) : m_app(app), m_rng(seed) {}
 
-    // Called after every event sent (and after every wait, when timers ran); answering false
-    // says a rule broke, and the input under way sends nothing more.
-    void setCheck(std::function<bool()> check);
+    // Called after every event sent (and after every wait); answering false says a rule broke,
+    // and the input under way sends nothing more.
+    void setCheck(std::function<bool()> check) { m_check = std::move(check); }
     bool failed() const { return m_failed; }
 
-    // Sends one input (a drag is one input made of several events) and lets the application
-    // take it. Answers what was sent, for the trace of a failing run.
+    // Sends one input (a drag is one input of several events) and answers what was sent.
     QString step();
 
-    // How many inputs of each kind were sent.
     const std::array<qint64, KindCount>& sent() const { return m_sent; }
-    // How many window events those inputs came to (a key is a press and a release).
-    qint64 events() const { return m_events; }
+    qint64 events() const { return m_events; } // window events the inputs came to
     static const char* KindName(Kind kind);
 
-    // Texts the monkey types and pastes: the awkward ones every text field meets sooner or later.
-    static QString SampleText(int index, int repeat);
-    static constexpr int kSampleTexts = 14;
-
 private:
-    Kind chooseKind();
-    int below(int bound);
-    bool chance(int percent);
-
+    int below(int bound) { return bound <= 1 ? 0 : std::uniform_int_distribution<int>(0, bound - 1)(m_rng); }
+    bool chance(int percent) { return below(100) < percent; }
     QPoint anywhere();
-    QPoint slightlyOutside();
     QWidget* chooseControl();
-    QPoint pointOn(const QWidget* control);
-    QPoint aim(); // a control of the screen on view when there is one, else anywhere
+    QPoint aim(QWidget* control = nullptr);
 
     QString move(QPoint p);
-    QString press(QPoint p);
-    QString release(QPoint p);
+    QString press(QPoint p, bool down = true); // down: false releases
     QString click(QPoint p);
     QString drag();
-    QString keystroke();
-    QString replaceLongText();
-    QString typeText();
-    QString paste();
+    QString key(int key, Qt::KeyboardModifiers modifiers, const QString& text = {});
+    QString text(bool paste);
     QString wait(int ms);
     void afterEvents(int events);
 
