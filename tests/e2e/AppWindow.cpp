@@ -1,35 +1,66 @@
 #include "AppWindow.h"
 
-#include "SideEffectRules.h"
 #include "XDisplay.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
-
-#include <csignal>
-
-#include <QDeadlineTimer>
+#include <QHash>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QThread>
 
-AppWindow::AppWindow(const XDisplay& display) : m_display(display) {}
+#include <csignal>
 
 namespace {
 // Whether strace can trace here (ptrace may be forbidden in containers).
 bool CanTrace(const QString& strace) {
     if (strace.isEmpty()) return false;
     QProcess probe;
-    probe.start(strace, {QStringLiteral("-f"), QStringLiteral("-o"), QStringLiteral("/dev/null"),
-                         QStringLiteral("true")});
+    probe.start(strace, QStringLiteral("-f -o /dev/null true").split(QLatin1Char(' ')));
     return probe.waitForFinished(20000) && probe.exitStatus() == QProcess::NormalExit &&
            probe.exitCode() == 0;
 }
-} // namespace
 
-AppWindow::~AppWindow() {
-    stop();
+// What a traced run may not do, judged one line of `strace -f` output at a time: open a network
+// socket, or change the file system. Reading is free; so is writing to /dev/ (device nodes, shared
+// memory), /proc/ and the allowed folders. An attempt counts even when it fails. Resumed halves,
+// signals and exits are not judged: the first half of a split call has its arguments.
+QString SideEffectOf(const QString& line, const QStringList& allowed) {
+    static const QRegularExpression call(QStringLiteral("^(?:(?:\\[pid\\s+)?\\d+\\]?\\s+)?(\\w+)\\((.*)$"));
+    static const QRegularExpression quoted(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
+    static const QRegularExpression network(QStringLiteral("^(AF_INET6?|AF_PACKET)\\b"));
+    static const QRegularExpression writing(
+        QStringLiteral("\\b(O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_APPEND)\\b"));
+    static const QStringList opening = QStringLiteral("open openat openat2 creat").split(QLatin1Char(' '));
+    static const QStringList changing =
+        QStringLiteral("mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 link linkat symlink "
+                       "symlinkat truncate chmod fchmodat chown lchown fchownat utime utimes utimensat mknod "
+                       "mknodat setxattr lsetxattr removexattr lremovexattr")
+            .split(QLatin1Char(' '));
+    const auto m = call.match(line);
+    if (!m.hasMatch()) return {};
+    const QString name = m.captured(1), args = m.captured(2);
+    QStringList paths;
+    for (auto it = quoted.globalMatch(args); it.hasNext();) paths << it.next().captured(1);
+    const auto forbidden = [&allowed](const QString& path) {
+        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"))) return false;
+        for (const QString& folder : allowed)
+            if (path == folder || path.startsWith(folder + QLatin1Char('/'))) return false;
+        return true;
+    };
+    if (name == QLatin1String("socket"))
+        if (const auto n = network.match(args); n.hasMatch())
+            return QStringLiteral("opens a network socket (%1)").arg(n.captured(1));
+    if (opening.contains(name) && (name == QLatin1String("creat") || writing.match(args).hasMatch()) &&
+        !paths.isEmpty() && forbidden(paths.first()))
+        return QStringLiteral("opens %1 for writing").arg(paths.first());
+    if (changing.contains(name) && paths.isEmpty()) return QStringLiteral("%1 on an open file").arg(name);
+    for (const QString& path : paths)
+        if (changing.contains(name) && forbidden(path)) return QStringLiteral("%1 %2").arg(name, path);
+    return {};
 }
+} // namespace
 
 void AppWindow::stop() {
     if (m_process.state() == QProcess::NotRunning) return;
@@ -44,26 +75,20 @@ void AppWindow::stop() {
     errorOutput();
 }
 
-QString AppWindow::tracePath() const {
-    return m_scratch.filePath(QStringLiteral("trace.txt"));
-}
-
 QStringList AppWindow::sideEffects() const {
     QFile trace(tracePath());
     if (!m_traced || !trace.open(QIODevice::ReadOnly)) return {};
-    const QStringList allowed{m_scratch.filePath(QStringLiteral("runtime"))};
     QStringList effects;
-    while (!trace.atEnd()) {
-        const QString line = QString::fromLocal8Bit(trace.readLine()).trimmed();
-        if (const auto effect = SideEffectRules::SideEffectOf(line, allowed);
-            effect && !effects.contains(*effect))
-            effects << *effect;
-    }
+    while (!trace.atEnd())
+        if (const QString effect = SideEffectOf(QString::fromLocal8Bit(trace.readLine()).trimmed(),
+                                                {m_scratch.filePath(QStringLiteral("runtime"))});
+            !effect.isEmpty() && !effects.contains(effect))
+            effects << effect;
     return effects;
 }
 
-bool AppWindow::xdotool(const QStringList& args) const {
-    return m_display.run(QStringLiteral("xdotool"), args);
+bool AppWindow::xdotool(const QStringList& args, QByteArray* output) const {
+    return m_display.run(QStringLiteral("xdotool"), args, output);
 }
 
 bool AppWindow::start(const QString& binary, QString* why) {
@@ -79,9 +104,7 @@ bool AppWindow::start(const QString& binary, QString* why) {
     env.insert(QStringLiteral("HOME"), home);
     env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
     env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-               QStringLiteral("unix:path=") + runtime + QStringLiteral("/no-bus"));
-    m_process.setProcessEnvironment(env);
-    m_process.setStandardOutputFile(QProcess::nullDevice());
+               QStringLiteral("unix:path=%1/no-bus").arg(runtime));
     const QString strace = QStandardPaths::findExecutable(QStringLiteral("strace"));
     m_traced = CanTrace(strace);
     // The leak checker stops the process's threads with ptrace, which strace already holds.
@@ -89,6 +112,7 @@ bool AppWindow::start(const QString& binary, QString* why) {
         env.insert(QStringLiteral("ASAN_OPTIONS"),
                    env.value(QStringLiteral("ASAN_OPTIONS")) + QStringLiteral(":detect_leaks=0"));
     m_process.setProcessEnvironment(env);
+    m_process.setStandardOutputFile(QProcess::nullDevice());
     if (m_traced)
         m_process.start(strace,
                         {QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-o"), tracePath(),
@@ -96,50 +120,32 @@ bool AppWindow::start(const QString& binary, QString* why) {
     else
         m_process.start(binary, {});
     if (!m_process.waitForStarted(20000)) {
-        if (why) *why = QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString());
+        *why = QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString());
         return false;
     }
 
     // The display is this test's own, and one application runs on it at a time.
-    const QDeadlineTimer deadline(90000);
-    while (m_windowId.isEmpty() && !deadline.hasExpired() && isRunning()) {
-        QByteArray ids;
-        if (m_display.run(QStringLiteral("xdotool"),
-                          {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                           QStringLiteral("--name"), QStringLiteral("^Robot Companion$")},
-                          &ids))
-            m_windowId = QString::fromLatin1(ids).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
-        if (m_windowId.isEmpty()) QThread::msleep(200);
-    }
-    QByteArray pid;
-    if (!m_windowId.isEmpty() &&
-        m_display.run(QStringLiteral("xdotool"), {QStringLiteral("getwindowpid"), m_windowId}, &pid))
-        m_appPid = pid.trimmed().toLongLong();
-    if (m_windowId.isEmpty()) {
-        if (why) *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
+    QString windowId;
+    QByteArray out;
+    for (const QDeadlineTimer deadline(90000); windowId.isEmpty() && !deadline.hasExpired() && isRunning();
+         QThread::msleep(200))
+        if (xdotool(QStringLiteral("search --onlyvisible --name ^Robot.Companion$").split(QLatin1Char(' ')),
+                    &out))
+            windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
+    if (windowId.isEmpty()) {
+        *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
         return false;
     }
-
-    QByteArray shell;
-    m_display.run(QStringLiteral("xdotool"),
-                  {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), m_windowId}, &shell);
-    static const QRegularExpression field(QStringLiteral("^(X|Y|WIDTH|HEIGHT)=(\\d+)$"),
-                                          QRegularExpression::MultilineOption);
-    int x = -1, y = -1, w = 0, h = 0;
-    for (auto it = field.globalMatch(QString::fromLatin1(shell)); it.hasNext();) {
-        const auto m = it.next();
-        const int value = m.captured(2).toInt();
-        const QString name = m.captured(1);
-        if (name == QLatin1String("X")) x = value;
-        if (name == QLatin1String("Y")) y = value;
-        if (name == QLatin1String("WIDTH")) w = value;
-        if (name == QLatin1String("HEIGHT")) h = value;
-    }
-    m_window = QRect(x, y, w, h);
-    if (x < 0 || y < 0 || w != kWidth || h != kHeight) {
-        if (why)
-            *why =
-                QStringLiteral("unexpected window geometry: %1").arg(QString::fromLatin1(shell).simplified());
+    if (xdotool({QStringLiteral("getwindowpid"), windowId}, &out)) m_appPid = out.trimmed().toLongLong();
+    xdotool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), windowId}, &out);
+    QHash<QString, int> geometry;
+    for (const QString& field : QString::fromLatin1(out).split(QLatin1Char('\n')))
+        if (const QStringList pair = field.split(QLatin1Char('=')); pair.size() == 2)
+            geometry[pair[0]] = pair[1].toInt();
+    m_window = QRect(geometry.value(QStringLiteral("X"), -1), geometry.value(QStringLiteral("Y"), -1),
+                     geometry.value(QStringLiteral("WIDTH")), geometry.value(QStringLiteral("HEIGHT")));
+    if (m_window.x() < 0 || m_window.y() < 0 || m_window.size() != QSize(1024, 768)) {
+        *why = QStringLiteral("unexpected window geometry: %1").arg(QString::fromLatin1(out).simplified());
         return false;
     }
     return true;
@@ -153,31 +159,14 @@ bool AppWindow::moveTo(QPoint pos) {
     return xdotool({QStringLiteral("mousemove"), QString::number(screen.x()), QString::number(screen.y())});
 }
 
-bool AppWindow::press() {
-    return xdotool({QStringLiteral("mousedown"), QStringLiteral("1")});
-}
-
-bool AppWindow::release() {
-    return xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
-}
-
-bool AppWindow::click(QPoint pos) {
-    return moveTo(pos) && press() && release();
-}
-
 bool AppWindow::type(const QString& text) {
     return xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("80"),
                     QStringLiteral("--"), text});
 }
 
-bool AppWindow::key(const QString& keyName) {
-    return xdotool({QStringLiteral("key"), keyName});
-}
-
 QImage AppWindow::grab() const {
     const QImage screen = m_display.grabScreen();
-    if (screen.isNull()) return {};
-    return screen.copy(m_window);
+    return screen.isNull() ? QImage() : screen.copy(m_window);
 }
 
 QString AppWindow::errorOutput() {

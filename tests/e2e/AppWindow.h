@@ -14,8 +14,8 @@ class XDisplay;
 // input (xdotool) at window coordinates and looked at through screenshots of the display.
 class AppWindow {
 public:
-    explicit AppWindow(const XDisplay& display);
-    ~AppWindow();
+    explicit AppWindow(const XDisplay& display) : m_display(display) {}
+    ~AppWindow() { stop(); }
     AppWindow(const AppWindow&) = delete;
     AppWindow& operator=(const AppWindow&) = delete;
 
@@ -27,37 +27,30 @@ public:
     // What the traced run did that it may not: network sockets, writes to the file system. Read
     // after stop(); empty when the run was not traced.
     QStringList sideEffects() const;
-    bool traced() const { return m_traced; }
     bool isRunning() const { return m_process.state() == QProcess::Running; }
-    QRect windowRect() const { return m_window; }
 
     // Input at window coordinates.
     bool moveTo(QPoint pos);
-    bool press();
-    bool release();
-    bool click(QPoint pos);
+    bool press() { return xdotool({QStringLiteral("mousedown"), QStringLiteral("1")}); }
+    bool release() { return xdotool({QStringLiteral("mouseup"), QStringLiteral("1")}); }
+    bool click(QPoint pos) { return moveTo(pos) && press() && release(); }
     bool type(const QString& text);
-    bool key(const QString& keyName);
+    bool key(const QString& keyName) { return xdotool({QStringLiteral("key"), keyName}); }
 
     // The window's part of the screen; null when the screenshot failed.
     QImage grab() const;
-
     // Everything the app wrote to stderr so far.
     QString errorOutput();
 
-    static constexpr int kWidth = 1024;
-    static constexpr int kHeight = 768;
-
 private:
-    bool xdotool(const QStringList& args) const;
-    QString tracePath() const;
+    bool xdotool(const QStringList& args, QByteArray* output = nullptr) const;
+    QString tracePath() const { return m_scratch.filePath(QStringLiteral("trace.txt")); }
 
     const XDisplay& m_display;
     QProcess m_process;
     QTemporaryDir m_scratch;
     bool m_traced = false;
     qint64 m_appPid = 0;
-    QString m_windowId;
     QRect m_window;
     QPoint m_pointer{-1, -1};
     QByteArray m_stderr;

@@ -4,11 +4,10 @@
 #include <QStandardPaths>
 
 XDisplay::~XDisplay() {
-    if (m_server.state() != QProcess::NotRunning) {
-        m_server.terminate();
-        if (!m_server.waitForFinished(5000)) m_server.kill();
-        m_server.waitForFinished(5000);
-    }
+    if (m_server.state() == QProcess::NotRunning) return;
+    m_server.terminate();
+    if (!m_server.waitForFinished(5000)) m_server.kill();
+    m_server.waitForFinished(5000);
 }
 
 QString XDisplay::MissingTools() {
@@ -23,36 +22,28 @@ QString XDisplay::MissingTools() {
 
 bool XDisplay::start(QString* why) {
     // -displayfd: the server takes the first free display and writes its number to our pipe.
-    m_server.setProcessChannelMode(QProcess::SeparateChannels);
-    m_server.start(QStringLiteral("Xvfb"),
-                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(kScreenWidth).arg(kScreenHeight),
-                    QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                    // Without it the server resets whenever its last
-                    // client leaves, and turns away whoever comes next.
-                    QStringLiteral("-noreset")});
-    if (!m_server.waitForStarted(10000)) {
-        if (why) *why = QStringLiteral("Xvfb does not start: %1").arg(m_server.errorString());
-        return false;
-    }
+    // -noreset: else the server resets whenever its last client leaves, and turns away the next.
+    m_server.start(
+        QStringLiteral("Xvfb"),
+        QStringLiteral("-displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset").split(QLatin1Char(' ')));
     QByteArray number;
     const QDeadlineTimer deadline(30000);
-    while (!number.contains('\n') && !deadline.hasExpired() && m_server.state() == QProcess::Running) {
+    while (m_server.waitForStarted(10000) && !number.contains('\n') && !deadline.hasExpired()) {
         m_server.waitForReadyRead(200);
         number += m_server.readAllStandardOutput();
     }
     bool ok = false;
     const int n = number.trimmed().toInt(&ok);
     if (!ok) {
-        if (why)
-            *why = QStringLiteral("Xvfb gave no display number: %1")
-                       .arg(QString::fromLocal8Bit(m_server.readAllStandardError()).trimmed());
+        *why = QStringLiteral("Xvfb gave no display number: %1 %2")
+                   .arg(m_server.errorString(),
+                        QString::fromLocal8Bit(m_server.readAllStandardError()).trimmed());
         return false;
     }
     m_display = QStringLiteral(":%1").arg(n);
     // The server answers as soon as it has said its number; make sure the tools can talk to it.
     if (!run(QStringLiteral("xdotool"), {QStringLiteral("getmouselocation")})) {
-        if (why) *why = QStringLiteral("xdotool cannot use the display %1").arg(m_display);
+        *why = QStringLiteral("xdotool cannot use the display %1").arg(m_display);
         return false;
     }
     return true;
@@ -64,14 +55,13 @@ QProcessEnvironment XDisplay::environment() const {
     return env;
 }
 
-bool XDisplay::run(const QString& program, const QStringList& args, QByteArray* output, int timeoutMs) const {
+bool XDisplay::run(const QString& program, const QStringList& args, QByteArray* output) const {
     QProcess tool;
     tool.setProcessEnvironment(environment());
     tool.start(program, args);
-    if (!tool.waitForStarted(10000)) return false;
     QByteArray out;
-    const QDeadlineTimer deadline(timeoutMs);
-    while (tool.state() != QProcess::NotRunning && !deadline.hasExpired()) {
+    const QDeadlineTimer deadline(30000);
+    while (tool.waitForStarted(10000) && tool.state() != QProcess::NotRunning && !deadline.hasExpired()) {
         tool.waitForFinished(100);
         out += tool.readAllStandardOutput();
     }
@@ -80,16 +70,14 @@ bool XDisplay::run(const QString& program, const QStringList& args, QByteArray* 
         tool.waitForFinished(5000);
         return false;
     }
-    out += tool.readAllStandardOutput();
-    if (output) *output = out;
-    return tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
+    if (output) *output = out + tool.readAllStandardOutput();
+    return tool.error() != QProcess::FailedToStart && tool.exitStatus() == QProcess::NormalExit &&
+           tool.exitCode() == 0;
 }
 
 QImage XDisplay::grabScreen() const {
     QByteArray png;
-    if (!run(QStringLiteral("import"),
-             {QStringLiteral("-silent"), QStringLiteral("-window"), QStringLiteral("root"),
-              QStringLiteral("png:-")},
+    if (!run(QStringLiteral("import"), QStringLiteral("-silent -window root png:-").split(QLatin1Char(' ')),
              &png))
         return {};
     return QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32);

@@ -17,21 +17,13 @@ public:
 
     // Why the end-to-end tests cannot run here (a missing program), or empty.
     static QString MissingTools();
-
     // Starts the server; on failure says why.
     bool start(QString* why);
-    QString display() const { return m_display; }
     // This process's environment with DISPLAY pointing at the server.
     QProcessEnvironment environment() const;
-
     // Runs an X tool to its end; false when it cannot start, times out or fails.
-    bool run(const QString& program, const QStringList& args, QByteArray* output = nullptr,
-             int timeoutMs = 30000) const;
-    // The whole screen.
+    bool run(const QString& program, const QStringList& args, QByteArray* output = nullptr) const;
     QImage grabScreen() const;
-
-    static constexpr int kScreenWidth = 1280;
-    static constexpr int kScreenHeight = 1024;
 
 private:
     QProcess m_server;
