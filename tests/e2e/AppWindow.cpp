@@ -1,11 +1,8 @@
 #include "AppWindow.h"
 
-#include "XDisplay.h"
-
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QHash>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QThread>
@@ -62,6 +59,60 @@ QString SideEffectOf(const QString& line, const QStringList& allowed) {
 }
 } // namespace
 
+AppWindow::~AppWindow() {
+    stop();
+    if (m_server.state() == QProcess::NotRunning) return;
+    m_server.terminate();
+    if (!m_server.waitForFinished(5000)) m_server.kill();
+    m_server.waitForFinished(5000);
+}
+
+bool AppWindow::startServer(QString* why) {
+    // -displayfd: the server takes the first free display and writes its number to our pipe.
+    // -noreset: else the server resets whenever its last client leaves, and turns away the next.
+    m_server.start(
+        QStringLiteral("Xvfb"),
+        QStringLiteral("-displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset").split(QLatin1Char(' ')));
+    QByteArray number;
+    for (const QDeadlineTimer deadline(30000);
+         m_server.waitForStarted(10000) && !number.contains('\n') && !deadline.hasExpired();)
+        if (m_server.waitForReadyRead(200)) number += m_server.readAllStandardOutput();
+    bool ok = false;
+    m_display = QStringLiteral(":%1").arg(number.trimmed().toInt(&ok));
+    // The server answers as soon as it has said its number; make sure the tools can talk to it.
+    if (ok && xdotool({QStringLiteral("getmouselocation")})) return true;
+    *why =
+        QStringLiteral("Xvfb gave no usable display: %1 %2")
+            .arg(m_server.errorString(), QString::fromLocal8Bit(m_server.readAllStandardError()).trimmed());
+    return false;
+}
+
+QProcessEnvironment AppWindow::environment() const {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("DISPLAY"), m_display);
+    return env;
+}
+
+bool AppWindow::run(const QString& program, const QStringList& args, QByteArray* output) const {
+    QProcess tool;
+    tool.setProcessEnvironment(environment());
+    tool.start(program, args);
+    QByteArray out;
+    const QDeadlineTimer deadline(30000);
+    while (tool.waitForStarted(10000) && tool.state() != QProcess::NotRunning && !deadline.hasExpired()) {
+        tool.waitForFinished(100);
+        out += tool.readAllStandardOutput();
+    }
+    if (tool.state() != QProcess::NotRunning) {
+        tool.kill();
+        tool.waitForFinished(5000);
+        return false;
+    }
+    if (output) *output = out + tool.readAllStandardOutput();
+    return tool.error() != QProcess::FailedToStart && tool.exitStatus() == QProcess::NormalExit &&
+           tool.exitCode() == 0;
+}
+
 void AppWindow::stop() {
     if (m_process.state() == QProcess::NotRunning) return;
     errorOutput();
@@ -87,12 +138,9 @@ QStringList AppWindow::sideEffects() const {
     return effects;
 }
 
-bool AppWindow::xdotool(const QStringList& args, QByteArray* output) const {
-    return m_display.run(QStringLiteral("xdotool"), args, output);
-}
-
 bool AppWindow::start(const QString& binary, QString* why) {
-    QProcessEnvironment env = m_display.environment();
+    if (!startServer(why)) return false;
+    QProcessEnvironment env = environment();
     // The tests around may run offscreen; this one needs the real X window.
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     // A home and a runtime folder of its own: writing anywhere but the runtime folder is caught.
@@ -124,28 +172,22 @@ bool AppWindow::start(const QString& binary, QString* why) {
         return false;
     }
 
-    // The display is this test's own, and one application runs on it at a time.
-    QString windowId;
+    // The display is this window's own.
     QByteArray out;
-    for (const QDeadlineTimer deadline(90000); windowId.isEmpty() && !deadline.hasExpired() && isRunning();
+    for (const QDeadlineTimer deadline(90000); m_windowId.isEmpty() && !deadline.hasExpired() && isRunning();
          QThread::msleep(200))
         if (xdotool(QStringLiteral("search --onlyvisible --name ^Robot.Companion$").split(QLatin1Char(' ')),
                     &out))
-            windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
-    if (windowId.isEmpty()) {
+            m_windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
+    if (m_windowId.isEmpty()) {
         *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
         return false;
     }
-    if (xdotool({QStringLiteral("getwindowpid"), windowId}, &out)) m_appPid = out.trimmed().toLongLong();
-    xdotool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), windowId}, &out);
-    QHash<QString, int> geometry;
-    for (const QString& field : QString::fromLatin1(out).split(QLatin1Char('\n')))
-        if (const QStringList pair = field.split(QLatin1Char('=')); pair.size() == 2)
-            geometry[pair[0]] = pair[1].toInt();
-    m_window = QRect(geometry.value(QStringLiteral("X"), -1), geometry.value(QStringLiteral("Y"), -1),
-                     geometry.value(QStringLiteral("WIDTH")), geometry.value(QStringLiteral("HEIGHT")));
-    if (m_window.x() < 0 || m_window.y() < 0 || m_window.size() != QSize(1024, 768)) {
-        *why = QStringLiteral("unexpected window geometry: %1").arg(QString::fromLatin1(out).simplified());
+    if (xdotool({QStringLiteral("getwindowpid"), m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
+    QImage window;
+    for (int attempt = 0; attempt < 5 && (window = grab()).isNull(); ++attempt) QThread::msleep(200);
+    if (window.size() != QSize(1024, 768)) {
+        *why = QStringLiteral("the window is %1 by %2").arg(window.width()).arg(window.height());
         return false;
     }
     return true;
@@ -155,18 +197,17 @@ bool AppWindow::moveTo(QPoint pos) {
     // A move to where the pointer already is would be no move at all.
     if (pos == m_pointer) return true;
     m_pointer = pos;
-    const QPoint screen = m_window.topLeft() + pos;
-    return xdotool({QStringLiteral("mousemove"), QString::number(screen.x()), QString::number(screen.y())});
-}
-
-bool AppWindow::type(const QString& text) {
-    return xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("80"),
-                    QStringLiteral("--"), text});
+    return xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), m_windowId,
+                    QString::number(pos.x()), QString::number(pos.y())});
 }
 
 QImage AppWindow::grab() const {
-    const QImage screen = m_display.grabScreen();
-    return screen.isNull() ? QImage() : screen.copy(m_window);
+    QByteArray png;
+    if (!run(QStringLiteral("import"),
+             {QStringLiteral("-silent"), QStringLiteral("-window"), m_windowId, QStringLiteral("png:-")},
+             &png))
+        return {};
+    return QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32);
 }
 
 QString AppWindow::errorOutput() {

@@ -1,22 +1,20 @@
 #include "AppWindow.h"
 #include "Scene.h"
-#include "XDisplay.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTest>
 
 #include <cstdio>
 #include <functional>
 
-// The real robot-companion binary in a real X server, worked only with X input at the window
+// The real robot-companion binary in a private X server, worked only with X input at the window
 // coordinates of the layout tables, and judged by regions of screenshots against the rendered
 // pictures that must show there.
 namespace {
-
-XDisplay* g_display = nullptr;
 
 // Frames of the layout tables in window coordinates, the origins of their sub-views added.
 namespace At {
@@ -70,13 +68,11 @@ struct Look {
     Scene other;
 };
 
-// The largest mean difference a region may have from its expected scene, and the least two
-// scenes must differ by for a region to tell them apart.
-constexpr double kTolerance = 3.0;
-constexpr double kMinSeparation = 8.0;
-
 // Empty when the shot shows the look, else what is wrong.
 QString Judge(const QImage& shot, const Look& look) {
+    // The largest mean difference a region may have from its expected scene, and the least two
+    // scenes must differ by for a region to tell them apart.
+    constexpr double kTolerance = 3.0, kMinSeparation = 8.0;
     if (!look.expected.isValid() || !look.other.isValid())
         return look.what + ": a picture of the check is missing in " + Scene::PictureFolder();
     const double separation = Scene::Difference(look.expected.image(), look.other.image(), look.region);
@@ -151,16 +147,6 @@ Button Status(const QRect& frame) {
 const Button kDateButton{At::BirthDate, "but_normal_Btn02", nullptr, {120, 0, 60, 46}};
 const Button kCreateUp{At::CreateNamed, kBtn1, "but_over_Btn01", {75, 0, 36, 46}};
 
-QList<Look> MovementScreen() {
-    return Buttons(kEditor, {{At::MovementTabOnMovement, "movement_over", "movement", {0, 0, 60, 63}},
-                             {At::SoundTabOnMovement, "sound", "sound_over", {3, 0, 58, 63}}});
-}
-
-QList<Look> SoundScreen() {
-    return Buttons(kEditor, {{At::SoundTabOnSound, "sound_over", "sound", {0, 0, 54, 63}},
-                             {At::MovementTabOnSound, "movement", "movement_over", {0, 0, 64, 63}}});
-}
-
 using Check = std::function<QString(const QImage&)>;
 
 // The region must differ from `before` by at least `least`.
@@ -181,9 +167,7 @@ class TestEndToEnd : public QObject {
     QString m_failure;
 
     bool startApp() {
-        // One application at a time on the display: its window is found by name.
-        m_app.reset();
-        m_app = std::make_unique<AppWindow>(*g_display);
+        m_app = std::make_unique<AppWindow>();
         // The pointer starts in the middle of the screen, over the menu; park it on the background.
         return m_app->start(QStringLiteral(ROBOT_E2E_APP), &m_failure) && m_app->moveTo(At::Park);
     }
@@ -204,11 +188,9 @@ class TestEndToEnd : public QObject {
         do {
             last = shot();
             wrong = last.isNull() ? QStringList{"no screenshot"} : QStringList{};
-            for (const Look& look : looks)
-                if (const QString why = last.isNull() ? QString() : Judge(last, look); !why.isEmpty())
-                    wrong << why;
-            if (const QString why = also && !last.isNull() ? also(last) : QString(); !why.isEmpty())
-                wrong << why;
+            for (const Look& look : looks) wrong << Judge(last, look);
+            if (also && !last.isNull()) wrong << also(last);
+            wrong.removeAll(QString());
             if (wrong.isEmpty()) return true;
             // A picture missing from the build will not appear by waiting.
             if (wrong.first().contains("missing") || !m_app->isRunning()) break;
@@ -303,6 +285,12 @@ private slots:
 
     void typicalRun() {
         AppWindow& app = *m_app;
+        const QList<Look> movementScreen =
+            Buttons(kEditor, {{At::MovementTabOnMovement, "movement_over", "movement", {0, 0, 60, 63}},
+                              {At::SoundTabOnMovement, "sound", "sound_over", {3, 0, 58, 63}}});
+        const QList<Look> soundScreen =
+            Buttons(kEditor, {{At::SoundTabOnSound, "sound_over", "sound", {0, 0, 54, 63}},
+                              {At::MovementTabOnSound, "movement", "movement_over", {0, 0, 64, 63}}});
         CHECK(menuReady("menu"));
 
         // Pointed at, "Program scenario" lights up and whitens its caption.
@@ -325,9 +313,9 @@ private slots:
         WAIT_FOR("name typed", Buttons(kCommon, {kCreateUp}),
                  Changed(emptyField, At::NameField, 3, "the name field shows no text"));
         QVERIFY(app.click(At::CreateNamed.center()));
-        WAIT_FOR("movement screen", MovementScreen());
+        WAIT_FOR("movement screen", movementScreen);
         QVERIFY(app.click(At::SoundTabOnMovement.center()));
-        WAIT_FOR("sound screen", SoundScreen());
+        WAIT_FOR("sound screen", soundScreen);
 
         // Twelve sounds fill the timeline's first page, one item each, the chosen button marked.
         for (int i = 0; i < 12; ++i) {
@@ -379,9 +367,9 @@ private slots:
         // The Back chain: the sound screen as it was left, the movement screen, the menu with its
         // captions in their normal colour.
         QVERIFY(app.click(At::BackOnLaser.center()));
-        WAIT_FOR("back on the sound screen", SoundScreen() << pageTwo);
+        WAIT_FOR("back on the sound screen", soundScreen + QList{pageTwo});
         QVERIFY(app.click(At::BackOnSound.center()));
-        WAIT_FOR("back on the movement screen", MovementScreen());
+        WAIT_FOR("back on the movement screen", movementScreen);
         QVERIFY(app.click(At::BackOnMovement.center()) && app.moveTo(At::Park));
         CHECK(menuReady("back on the menu"));
         // Only the alarm screen's way back to the menu writes its line.
@@ -496,15 +484,13 @@ int main(int argc, char** argv) {
                      qPrintable(why));
         return required ? 1 : 77; // what CTest reads as "skipped"
     };
-    if (const QString missing = XDisplay::MissingTools(); !missing.isEmpty()) return skip(missing);
+    for (const char* tool : {"Xvfb", "xdotool", "import"})
+        if (QStandardPaths::findExecutable(tool).isEmpty())
+            return skip(tool +
+                        QStringLiteral(" is not on PATH (Debian packages xvfb, xdotool, imagemagick)"));
     Scene::SetPictureFolder(QStringLiteral(ROBOT_E2E_PICTURES));
     if (Scene::Picture("mainpage_bg").isNull())
         return skip("the pictures were not rendered into " + Scene::PictureFolder());
-
-    XDisplay display;
-    QString why;
-    if (!display.start(&why)) return skip(why);
-    g_display = &display;
     TestEndToEnd tests;
     return QTest::qExec(&tests, argc, argv);
 }
