@@ -10,15 +10,6 @@
 #include <csignal>
 
 namespace {
-// Whether strace can trace here (ptrace may be forbidden in containers).
-bool CanTrace(const QString& strace) {
-    if (strace.isEmpty()) return false;
-    QProcess probe;
-    probe.start(strace, QStringLiteral("-f -o /dev/null true").split(QLatin1Char(' ')));
-    return probe.waitForFinished(20000) && probe.exitStatus() == QProcess::NormalExit &&
-           probe.exitCode() == 0;
-}
-
 // What a traced run may not do, judged one line of `strace -f` output at a time: open a network
 // socket, or change the file system. Reading is free; so is writing to /dev/ (device nodes, shared
 // memory), /proc/ and the allowed folders. An attempt counts even when it fails. Resumed halves,
@@ -97,20 +88,14 @@ bool AppWindow::run(const QString& program, const QStringList& args, QByteArray*
     QProcess tool;
     tool.setProcessEnvironment(environment());
     tool.start(program, args);
-    QByteArray out;
-    const QDeadlineTimer deadline(30000);
-    while (tool.waitForStarted(10000) && tool.state() != QProcess::NotRunning && !deadline.hasExpired()) {
-        tool.waitForFinished(100);
-        out += tool.readAllStandardOutput();
-    }
-    if (tool.state() != QProcess::NotRunning) {
+    // Waiting reads the output into the process's buffer: a large screenshot cannot block the pipe.
+    if (!tool.waitForFinished(30000)) {
         tool.kill();
         tool.waitForFinished(5000);
         return false;
     }
-    if (output) *output = out + tool.readAllStandardOutput();
-    return tool.error() != QProcess::FailedToStart && tool.exitStatus() == QProcess::NormalExit &&
-           tool.exitCode() == 0;
+    if (output) *output = tool.readAllStandardOutput();
+    return tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
 }
 
 void AppWindow::stop() {
@@ -154,7 +139,9 @@ bool AppWindow::start(const QString& binary, QString* why) {
     env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
                QStringLiteral("unix:path=%1/no-bus").arg(runtime));
     const QString strace = QStandardPaths::findExecutable(QStringLiteral("strace"));
-    m_traced = CanTrace(strace);
+    // Whether strace can trace here (ptrace may be forbidden in containers).
+    m_traced =
+        !strace.isEmpty() && run(strace, QStringLiteral("-f -o /dev/null true").split(QLatin1Char(' ')));
     // The leak checker stops the process's threads with ptrace, which strace already holds.
     if (m_traced)
         env.insert(QStringLiteral("ASAN_OPTIONS"),

@@ -1,8 +1,8 @@
 #include "AppWindow.h"
 #include "Scene.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -181,8 +181,7 @@ class TestEndToEnd : public QObject {
     // Polls screenshots until every look shows and `also` finds nothing wrong; else keeps the
     // reasons in m_failure and saves the last screenshot.
     bool waitFor(const QString& step, const QList<Look>& looks, const Check& also = {}) {
-        QElapsedTimer clock;
-        clock.start();
+        const QDeadlineTimer deadline(60000);
         QStringList wrong;
         QImage last;
         do {
@@ -195,7 +194,7 @@ class TestEndToEnd : public QObject {
             // A picture missing from the build will not appear by waiting.
             if (wrong.first().contains("missing") || !m_app->isRunning()) break;
             QTest::qWait(150);
-        } while (clock.elapsed() < 60000);
+        } while (!deadline.hasExpired());
         QString name = QStringLiteral("e2e-%1-%2.png").arg(QTest::currentTestFunction(), step);
         name.replace(QRegularExpression("[^A-Za-z0-9.-]+"), "-");
         const QString saved = QDir::current().absoluteFilePath(name);
