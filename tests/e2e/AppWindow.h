@@ -29,9 +29,7 @@ public:
 
     // Input at window coordinates.
     bool moveTo(QPoint pos);
-    bool press() { return xdotool({QStringLiteral("mousedown"), QStringLiteral("1")}); }
-    bool release() { return xdotool({QStringLiteral("mouseup"), QStringLiteral("1")}); }
-    bool click(QPoint pos) { return moveTo(pos) && press() && release(); }
+    bool click(QPoint pos) { return moveTo(pos) && xdotool({QStringLiteral("click"), QStringLiteral("1")}); }
     bool type(const QString& text) {
         return xdotool(QStringLiteral("type --delay 80 --").split(QLatin1Char(' ')) << text);
     }
