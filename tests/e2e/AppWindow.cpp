@@ -1,34 +1,101 @@
 #include "AppWindow.h"
 
-#include "SideEffectRules.h"
-#include "XDisplay.h"
-
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <csignal>
 
-#include <QDeadlineTimer>
-#include <QRegularExpression>
-#include <QThread>
-
-AppWindow::AppWindow(const XDisplay& display) : m_display(display) {}
-
 namespace {
-// Whether strace can trace here (ptrace may be forbidden in containers).
-bool CanTrace(const QString& strace) {
-    if (strace.isEmpty()) return false;
-    QProcess probe;
-    probe.start(strace, {QStringLiteral("-f"), QStringLiteral("-o"), QStringLiteral("/dev/null"),
-                         QStringLiteral("true")});
-    return probe.waitForFinished(20000) && probe.exitStatus() == QProcess::NormalExit &&
-           probe.exitCode() == 0;
+// What a traced run may not do, judged one line of `strace -f` output at a time: open a network
+// socket, or change the file system. Reading is free; so is writing to /dev/ (device nodes, shared
+// memory), /proc/ and the allowed folders. An attempt counts even when it fails. Resumed halves,
+// signals and exits are not judged: the first half of a split call has its arguments.
+QString SideEffectOf(const QString& line, const QStringList& allowed) {
+    static const QRegularExpression call(QStringLiteral("^(?:(?:\\[pid\\s+)?\\d+\\]?\\s+)?(\\w+)\\((.*)$"));
+    static const QRegularExpression quoted(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
+    static const QRegularExpression network(QStringLiteral("^(AF_INET6?|AF_PACKET)\\b"));
+    static const QRegularExpression writing(
+        QStringLiteral("\\b(O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_APPEND)\\b"));
+    static const QStringList opening = QStringLiteral("open openat openat2 creat").split(QLatin1Char(' '));
+    static const QStringList changing =
+        QStringLiteral("mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 link linkat symlink "
+                       "symlinkat truncate chmod fchmodat chown lchown fchownat utime utimes utimensat mknod "
+                       "mknodat setxattr lsetxattr removexattr lremovexattr")
+            .split(QLatin1Char(' '));
+    const auto m = call.match(line);
+    if (!m.hasMatch()) return {};
+    const QString name = m.captured(1), args = m.captured(2);
+    QStringList paths;
+    for (auto it = quoted.globalMatch(args); it.hasNext();) paths << it.next().captured(1);
+    const auto forbidden = [&allowed](const QString& path) {
+        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"))) return false;
+        for (const QString& folder : allowed)
+            if (path == folder || path.startsWith(folder + QLatin1Char('/'))) return false;
+        return true;
+    };
+    if (name == QLatin1String("socket"))
+        if (const auto n = network.match(args); n.hasMatch())
+            return QStringLiteral("opens a network socket (%1)").arg(n.captured(1));
+    if (opening.contains(name) && (name == QLatin1String("creat") || writing.match(args).hasMatch()) &&
+        !paths.isEmpty() && forbidden(paths.first()))
+        return QStringLiteral("opens %1 for writing").arg(paths.first());
+    if (changing.contains(name) && paths.isEmpty()) return QStringLiteral("%1 on an open file").arg(name);
+    for (const QString& path : paths)
+        if (changing.contains(name) && forbidden(path)) return QStringLiteral("%1 %2").arg(name, path);
+    return {};
 }
 } // namespace
 
 AppWindow::~AppWindow() {
     stop();
+    if (m_server.state() == QProcess::NotRunning) return;
+    m_server.terminate();
+    if (!m_server.waitForFinished(5000)) m_server.kill();
+    m_server.waitForFinished(5000);
+}
+
+bool AppWindow::startServer(QString* why) {
+    // -displayfd: the server takes the first free display and writes its number to our pipe.
+    // -noreset: else the server resets whenever its last client leaves, and turns away the next.
+    m_server.start(
+        QStringLiteral("Xvfb"),
+        QStringLiteral("-displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset").split(QLatin1Char(' ')));
+    QByteArray number;
+    for (const QDeadlineTimer deadline(30000);
+         m_server.waitForStarted(10000) && !number.contains('\n') && !deadline.hasExpired();)
+        if (m_server.waitForReadyRead(200)) number += m_server.readAllStandardOutput();
+    bool ok = false;
+    m_display = QStringLiteral(":%1").arg(number.trimmed().toInt(&ok));
+    // The server answers as soon as it has said its number; make sure the tools can talk to it.
+    if (ok && xdotool({QStringLiteral("getmouselocation")})) return true;
+    *why =
+        QStringLiteral("Xvfb gave no usable display: %1 %2")
+            .arg(m_server.errorString(), QString::fromLocal8Bit(m_server.readAllStandardError()).trimmed());
+    return false;
+}
+
+QProcessEnvironment AppWindow::environment() const {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("DISPLAY"), m_display);
+    return env;
+}
+
+bool AppWindow::run(const QString& program, const QStringList& args, QByteArray* output) const {
+    QProcess tool;
+    tool.setProcessEnvironment(environment());
+    tool.start(program, args);
+    // Waiting reads the output into the process's buffer: a large screenshot cannot block the pipe.
+    if (!tool.waitForFinished(30000)) {
+        tool.kill();
+        tool.waitForFinished(5000);
+        return false;
+    }
+    if (output) *output = tool.readAllStandardOutput();
+    return tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
 }
 
 void AppWindow::stop() {
@@ -44,30 +111,21 @@ void AppWindow::stop() {
     errorOutput();
 }
 
-QString AppWindow::tracePath() const {
-    return m_scratch.filePath(QStringLiteral("trace.txt"));
-}
-
 QStringList AppWindow::sideEffects() const {
     QFile trace(tracePath());
     if (!m_traced || !trace.open(QIODevice::ReadOnly)) return {};
-    const QStringList allowed{m_scratch.filePath(QStringLiteral("runtime"))};
     QStringList effects;
-    while (!trace.atEnd()) {
-        const QString line = QString::fromLocal8Bit(trace.readLine()).trimmed();
-        if (const auto effect = SideEffectRules::SideEffectOf(line, allowed);
-            effect && !effects.contains(*effect))
-            effects << *effect;
-    }
+    while (!trace.atEnd())
+        if (const QString effect = SideEffectOf(QString::fromLocal8Bit(trace.readLine()).trimmed(),
+                                                {m_scratch.filePath(QStringLiteral("runtime"))});
+            !effect.isEmpty() && !effects.contains(effect))
+            effects << effect;
     return effects;
 }
 
-bool AppWindow::xdotool(const QStringList& args) const {
-    return m_display.run(QStringLiteral("xdotool"), args);
-}
-
 bool AppWindow::start(const QString& binary, QString* why) {
-    QProcessEnvironment env = m_display.environment();
+    if (!startServer(why)) return false;
+    QProcessEnvironment env = environment();
     // The tests around may run offscreen; this one needs the real X window.
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     // A home and a runtime folder of its own: writing anywhere but the runtime folder is caught.
@@ -79,16 +137,17 @@ bool AppWindow::start(const QString& binary, QString* why) {
     env.insert(QStringLiteral("HOME"), home);
     env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
     env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-               QStringLiteral("unix:path=") + runtime + QStringLiteral("/no-bus"));
-    m_process.setProcessEnvironment(env);
-    m_process.setStandardOutputFile(QProcess::nullDevice());
+               QStringLiteral("unix:path=%1/no-bus").arg(runtime));
     const QString strace = QStandardPaths::findExecutable(QStringLiteral("strace"));
-    m_traced = CanTrace(strace);
+    // Whether strace can trace here (ptrace may be forbidden in containers).
+    m_traced =
+        !strace.isEmpty() && run(strace, QStringLiteral("-f -o /dev/null true").split(QLatin1Char(' ')));
     // The leak checker stops the process's threads with ptrace, which strace already holds.
     if (m_traced)
         env.insert(QStringLiteral("ASAN_OPTIONS"),
                    env.value(QStringLiteral("ASAN_OPTIONS")) + QStringLiteral(":detect_leaks=0"));
     m_process.setProcessEnvironment(env);
+    m_process.setStandardOutputFile(QProcess::nullDevice());
     if (m_traced)
         m_process.start(strace,
                         {QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-o"), tracePath(),
@@ -96,50 +155,26 @@ bool AppWindow::start(const QString& binary, QString* why) {
     else
         m_process.start(binary, {});
     if (!m_process.waitForStarted(20000)) {
-        if (why) *why = QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString());
+        *why = QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString());
         return false;
     }
 
-    // The display is this test's own, and one application runs on it at a time.
-    const QDeadlineTimer deadline(90000);
-    while (m_windowId.isEmpty() && !deadline.hasExpired() && isRunning()) {
-        QByteArray ids;
-        if (m_display.run(QStringLiteral("xdotool"),
-                          {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                           QStringLiteral("--name"), QStringLiteral("^Robot Companion$")},
-                          &ids))
-            m_windowId = QString::fromLatin1(ids).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
-        if (m_windowId.isEmpty()) QThread::msleep(200);
-    }
-    QByteArray pid;
-    if (!m_windowId.isEmpty() &&
-        m_display.run(QStringLiteral("xdotool"), {QStringLiteral("getwindowpid"), m_windowId}, &pid))
-        m_appPid = pid.trimmed().toLongLong();
+    // The display is this window's own.
+    QByteArray out;
+    for (const QDeadlineTimer deadline(90000); m_windowId.isEmpty() && !deadline.hasExpired() && isRunning();
+         QThread::msleep(200))
+        if (xdotool(QStringLiteral("search --onlyvisible --name ^Robot.Companion$").split(QLatin1Char(' ')),
+                    &out))
+            m_windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
     if (m_windowId.isEmpty()) {
-        if (why) *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
+        *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
         return false;
     }
-
-    QByteArray shell;
-    m_display.run(QStringLiteral("xdotool"),
-                  {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), m_windowId}, &shell);
-    static const QRegularExpression field(QStringLiteral("^(X|Y|WIDTH|HEIGHT)=(\\d+)$"),
-                                          QRegularExpression::MultilineOption);
-    int x = -1, y = -1, w = 0, h = 0;
-    for (auto it = field.globalMatch(QString::fromLatin1(shell)); it.hasNext();) {
-        const auto m = it.next();
-        const int value = m.captured(2).toInt();
-        const QString name = m.captured(1);
-        if (name == QLatin1String("X")) x = value;
-        if (name == QLatin1String("Y")) y = value;
-        if (name == QLatin1String("WIDTH")) w = value;
-        if (name == QLatin1String("HEIGHT")) h = value;
-    }
-    m_window = QRect(x, y, w, h);
-    if (x < 0 || y < 0 || w != kWidth || h != kHeight) {
-        if (why)
-            *why =
-                QStringLiteral("unexpected window geometry: %1").arg(QString::fromLatin1(shell).simplified());
+    if (xdotool({QStringLiteral("getwindowpid"), m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
+    QImage window;
+    for (int attempt = 0; attempt < 5 && (window = grab()).isNull(); ++attempt) QThread::msleep(200);
+    if (window.size() != QSize(1024, 768)) {
+        *why = QStringLiteral("the window is %1 by %2").arg(window.width()).arg(window.height());
         return false;
     }
     return true;
@@ -149,35 +184,17 @@ bool AppWindow::moveTo(QPoint pos) {
     // A move to where the pointer already is would be no move at all.
     if (pos == m_pointer) return true;
     m_pointer = pos;
-    const QPoint screen = m_window.topLeft() + pos;
-    return xdotool({QStringLiteral("mousemove"), QString::number(screen.x()), QString::number(screen.y())});
-}
-
-bool AppWindow::press() {
-    return xdotool({QStringLiteral("mousedown"), QStringLiteral("1")});
-}
-
-bool AppWindow::release() {
-    return xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
-}
-
-bool AppWindow::click(QPoint pos) {
-    return moveTo(pos) && press() && release();
-}
-
-bool AppWindow::type(const QString& text) {
-    return xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("80"),
-                    QStringLiteral("--"), text});
-}
-
-bool AppWindow::key(const QString& keyName) {
-    return xdotool({QStringLiteral("key"), keyName});
+    return xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), m_windowId,
+                    QString::number(pos.x()), QString::number(pos.y())});
 }
 
 QImage AppWindow::grab() const {
-    const QImage screen = m_display.grabScreen();
-    if (screen.isNull()) return {};
-    return screen.copy(m_window);
+    QByteArray png;
+    if (!run(QStringLiteral("import"),
+             {QStringLiteral("-silent"), QStringLiteral("-window"), m_windowId, QStringLiteral("png:-")},
+             &png))
+        return {};
+    return QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32);
 }
 
 QString AppWindow::errorOutput() {

@@ -3,62 +3,60 @@
 #include <QImage>
 #include <QPoint>
 #include <QProcess>
-#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
-class XDisplay;
-
-// The real robot-companion binary running on an X display, and its window, worked with real X
-// input (xdotool) at window coordinates and looked at through screenshots of the display.
+// The real robot-companion binary in a private X server (Xvfb on a display number it picks
+// itself, so parallel runs never collide), worked with real X input (xdotool) at window
+// coordinates and looked at through screenshots (ImageMagick's import).
 class AppWindow {
 public:
-    explicit AppWindow(const XDisplay& display);
+    AppWindow() = default;
     ~AppWindow();
     AppWindow(const AppWindow&) = delete;
     AppWindow& operator=(const AppWindow&) = delete;
 
-    // Starts the binary, under strace where it can trace, with a home and runtime folder of its
-    // own, and waits for its window to be mapped; on failure says why.
+    // Starts the server, then the binary under strace where it can trace, with a home and
+    // runtime folder of its own, and waits for its window to be mapped; on failure says why.
     bool start(const QString& binary, QString* why);
     // Ends the application; what it wrote stays readable.
     void stop();
     // What the traced run did that it may not: network sockets, writes to the file system. Read
     // after stop(); empty when the run was not traced.
     QStringList sideEffects() const;
-    bool traced() const { return m_traced; }
     bool isRunning() const { return m_process.state() == QProcess::Running; }
-    QRect windowRect() const { return m_window; }
 
     // Input at window coordinates.
     bool moveTo(QPoint pos);
-    bool press();
-    bool release();
-    bool click(QPoint pos);
-    bool type(const QString& text);
-    bool key(const QString& keyName);
+    bool click(QPoint pos) { return moveTo(pos) && xdotool({QStringLiteral("click"), QStringLiteral("1")}); }
+    bool type(const QString& text) {
+        return xdotool(QStringLiteral("type --delay 80 --").split(QLatin1Char(' ')) << text);
+    }
+    bool key(const QString& keyName) { return xdotool({QStringLiteral("key"), keyName}); }
 
-    // The window's part of the screen; null when the screenshot failed.
+    // A screenshot of the window; null when it failed.
     QImage grab() const;
-
     // Everything the app wrote to stderr so far.
     QString errorOutput();
 
-    static constexpr int kWidth = 1024;
-    static constexpr int kHeight = 768;
-
 private:
-    bool xdotool(const QStringList& args) const;
-    QString tracePath() const;
+    bool startServer(QString* why);
+    QProcessEnvironment environment() const;
+    // Runs an X tool to its end; false when it cannot start, times out or fails.
+    bool run(const QString& program, const QStringList& args, QByteArray* output = nullptr) const;
+    bool xdotool(const QStringList& args, QByteArray* output = nullptr) const {
+        return run(QStringLiteral("xdotool"), args, output);
+    }
+    QString tracePath() const { return m_scratch.filePath(QStringLiteral("trace.txt")); }
 
-    const XDisplay& m_display;
+    QProcess m_server;
+    QString m_display;
     QProcess m_process;
     QTemporaryDir m_scratch;
     bool m_traced = false;
     qint64 m_appPid = 0;
     QString m_windowId;
-    QRect m_window;
     QPoint m_pointer{-1, -1};
     QByteArray m_stderr;
 };

@@ -1,23 +1,9 @@
 #include "Scene.h"
 
+#include <QHash>
 #include <QPainter>
 
 #include <cstdlib>
-
-namespace {
-QString& Folder() {
-    static QString folder;
-    return folder;
-}
-} // namespace
-
-void Scene::SetPictureFolder(const QString& folder) {
-    Folder() = folder;
-}
-
-QString Scene::PictureFolder() {
-    return Folder();
-}
 
 QImage Scene::Picture(const QString& name, const QString& type) {
     static QHash<QString, QImage> cache;
@@ -32,33 +18,21 @@ QImage Scene::Picture(const QString& name, const QString& type) {
 }
 
 Scene::Scene(const QString& background, const QString& type) {
-    const QImage ground = Picture(background, type);
-    m_valid = !ground.isNull();
-    m_image = QImage(1024, 768, QImage::Format_RGB32);
     m_image.fill(Qt::black);
-    QPainter painter(&m_image);
-    painter.drawImage(QPoint(0, 0), ground);
+    picture(background, QPoint(0, 0), type);
 }
 
 Scene& Scene::picture(const QString& name, QPoint at, const QString& type) {
     const QImage image = Picture(name, type);
-    if (image.isNull()) {
-        m_valid = false;
-        return *this;
-    }
-    QPainter painter(&m_image);
-    painter.drawImage(at, image);
+    m_valid = m_valid && !image.isNull();
+    QPainter(&m_image).drawImage(at, image);
     return *this;
 }
 
 Scene& Scene::button(const QString& name, const QRect& frame) {
-    const QImage image = Picture(name);
-    if (image.isNull()) {
-        m_valid = false;
-        return *this;
-    }
     // Buttons of odd height put a picture half a point down; Qt rounds as the app does.
-    return picture(name, QPoint(frame.x(), frame.y() + qRound((frame.height() - image.height()) / 2.0)));
+    const int height = Picture(name).height();
+    return picture(name, QPoint(frame.x(), frame.y() + qRound((frame.height() - height) / 2.0)));
 }
 
 double Scene::Difference(const QImage& a, const QImage& b, const QRect& region) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QImage>
 #include <QPoint>
 #include <QRect>
@@ -11,26 +10,30 @@
 class Scene {
 public:
     // The rendered pictures of the build (files named as on disk, spaces as underscores).
-    static void SetPictureFolder(const QString& folder);
-    static QString PictureFolder();
+    static void SetPictureFolder(const QString& folder) { Folder() = folder; }
+    static QString PictureFolder() { return Folder(); }
     // A picture by its resource name; null when it was not rendered.
     static QImage Picture(const QString& name, const QString& type = QStringLiteral("png"));
 
     explicit Scene(const QString& background, const QString& type = QStringLiteral("png"));
     bool isValid() const { return m_valid; }
+    const QImage& image() const { return m_image; }
 
     // A picture at its natural size with its top left corner at `at` (window coordinates).
     Scene& picture(const QString& name, QPoint at, const QString& type = QStringLiteral("png"));
     // A button's picture: natural size, against the frame's left edge, centred vertically.
     Scene& button(const QString& name, const QRect& frame);
 
-    const QImage& image() const { return m_image; }
-
     // Mean difference of the two images over a rectangle, 0 (same) to 255, over the three
     // colour channels; 255 when the rectangle is not inside both.
     static double Difference(const QImage& a, const QImage& b, const QRect& region);
 
 private:
-    QImage m_image;
+    static QString& Folder() {
+        static QString folder;
+        return folder;
+    }
+
+    QImage m_image{1024, 768, QImage::Format_RGB32};
     bool m_valid = true;
 };
