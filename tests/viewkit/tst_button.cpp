@@ -44,7 +44,7 @@ struct Host {
     int ctxAction = 0, ctxEntered = 0, ctxExited = 0;
 
     Host() {
-        window.resize(400, 300);
+        window.resize(500, 300); // the page leaves a strip on the right
         NSViewS::AddSubview(&window, page);
         for (Button* button : {a, b})
             button->InitImage(QStringLiteral("up"), QStringLiteral("move"), QStringLiteral("down"),
@@ -83,6 +83,7 @@ const QHash<QString, std::function<void(Host&)>>& Steps() {
         {"moveDown", [](Host& h) { h.a->setFrame(MakeNSRect(50, 150, 100, 40)); }},
         {"halfOff", [](Host& h) { h.a->setFrame(MakeNSRect(350, 50, 100, 40)); }}, // past the page's edge
         {"inHalfOff", [](Host& h) { h.move(QPoint(380, 70)); }},
+        {"pastPage", [](Host& h) { h.move(QPoint(420, 70)); }},
         {"pressBoth", [](Host& h) { h.press(inBoth); }},
         {"releaseBoth", [](Host& h) { h.release(inBoth); }},
         {"hideOnRelease", [](Host& h) { h.a->InitButtonAction(HideOnRelease, &h.ctxAction); }},
@@ -131,7 +132,7 @@ private slots:
         QTest::newRow("registration stays where it was made")
             << "register moveDown in" << QStringList{"entered"} << "move" << 0;
         QTest::newRow("only the part on view is registered")
-            << "halfOff register inHalfOff" << QStringList{"entered"} << "move" << 0;
+            << "halfOff register inHalfOff pastPage" << QStringList{"entered", "exited"} << "up" << 0;
         QTest::newRow("setting pictures again brings it to the front")
             << "picturesAgain pressBoth releaseBoth" << QStringList{"action"} << "up" << 0;
         QTest::newRow("a callback that hides the button has the last word")
