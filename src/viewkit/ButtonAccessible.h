@@ -19,10 +19,8 @@ public:
     QStringList keyBindingsForAction(const QString& actionName) const override;
 
     // The name spoken for a button: the name a screen gave it, else its caption on one line,
-    // else the default name of its up picture, else "Button".
+    // else the name of its up picture, for the few that have one, else "Button".
     static QString NameOf(const Button* button);
-    // The default name of the buttons showing this up picture; empty when it has none.
-    static QString DefaultName(const QString& upPicture);
     // A caption as read aloud: its lines joined by single spaces.
     static QString OneLine(const QString& caption);
 

@@ -29,12 +29,6 @@ void TrackingRegistry::add(QWidget* view, const QRect& rect, HoverOwner* owner, 
     }
 }
 
-int TrackingRegistry::registrationCount(const HoverOwner* owner) const {
-    int count = 0;
-    for (const auto& r : m_registrations) count += (r.ownerView && r.owner == owner) ? 1 : 0;
-    return count;
-}
-
 bool TrackingRegistry::eventFilter(QObject* watched, QEvent* event) {
     auto* window = qobject_cast<QWindow*>(watched);
     if (!window) return false;

@@ -23,9 +23,6 @@ public:
     // window) is accepted and never fires.
     void add(QWidget* view, const QRect& rect, HoverOwner* owner, void* userData, bool assumeInside);
 
-    // How many live registrations an owner has; registrations made while empty do not count.
-    int registrationCount(const HoverOwner* owner) const;
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

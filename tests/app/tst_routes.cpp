@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -44,22 +45,17 @@ const QHash<QString, Control>& Controls() {
     return controls;
 }
 
-QWidget* ScreenNamed(Frame_Control* r, const QString& name) {
-    const QHash<QString, QWidget*> screens = {{"main menu", r->frmMainMenu}, {"scenario", r->frmScenario},
-                                              {"alarm", r->frmAlarm},        {"movement", r->frmMovement},
-                                              {"sound", r->frmSound},        {"laser", r->frmLazer}};
+// The screens by name, each with the button whose hover tells whether it made its registrations:
+// its Back, or on the menu, "Program scenario".
+std::pair<QWidget*, Button*> ScreenNamed(Frame_Control* r, const QString& name) {
+    const QHash<QString, std::pair<QWidget*, Button*>> screens = {
+        {"main menu", {r->frmMainMenu, r->frmMainMenu->BtnProgram}},
+        {"scenario", {r->frmScenario, r->frmScenario->BtnBack}},
+        {"alarm", {r->frmAlarm, r->frmAlarm->BtnBack}},
+        {"movement", {r->frmMovement, r->frmMovement->BtnBack}},
+        {"sound", {r->frmSound, r->frmSound->BtnButton[Frame_Sound::kBtnBack]}},
+        {"laser", {r->frmLazer, r->frmLazer->BtnBack}}};
     return screens.value(name);
-}
-
-// The button whose hover tells whether the shown screen made its registrations: its Back, or
-// on the menu, "Program scenario".
-Button* BackOf(Frame_Control* r, QWidget* screen) {
-    if (screen == r->frmMainMenu) return r->frmMainMenu->BtnProgram;
-    if (screen == r->frmScenario) return r->frmScenario->BtnBack;
-    if (screen == r->frmAlarm) return r->frmAlarm->BtnBack;
-    if (screen == r->frmMovement) return r->frmMovement->BtnBack;
-    if (screen == r->frmSound) return r->frmSound->BtnButton[Frame_Sound::kBtnBack];
-    return r->frmLazer->BtnBack;
 }
 
 const QStringList kToMovement{"Program scenario", "Create a new scenario", "name field", "type Robo",
@@ -120,11 +116,10 @@ private slots:
             QVERIFY2(control && control->isVisible(), qPrintable(step + QStringLiteral(" is not on view")));
             app.click(control);
         }
-        QWidget* expected = ScreenNamed(root, shown);
+        const auto [expected, probe] = ScreenNamed(root, shown);
         QCOMPARE(app.shownScreens(), std::vector<QWidget*>{expected});
 
         // Hover: off the button, then onto it.
-        Button* probe = BackOf(root, expected);
         app.moveTo(QPoint(400, 20));
         app.moveTo(probe);
         QCOMPARE(probe->look() == Button::Look::Move, hoverAnswers);

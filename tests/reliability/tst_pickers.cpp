@@ -25,24 +25,16 @@ void UseZone(const QByteArray& zone) {
     tzset();
 }
 
-QDateTimeEdit* PickerOf(Frame_Alarm* a, Picker p) {
-    switch (p) {
-    case BirthDate:
-        return a->txtBirthDate;
-    case BirthTime:
-        return a->txtBirthTime;
-    case WakeupTime:
-        return a->txtWakeupTime;
-    }
-    return nullptr;
-}
-
-Button* ValueButtonOf(Frame_Alarm* a, Picker p) {
-    return p == BirthDate ? a->BtnBirthDate : p == BirthTime ? a->BtnBirthTime : a->BtnWakeupTime;
-}
-
-Button* SetButtonOf(Frame_Alarm* a, Picker p) {
-    return p == BirthDate ? a->BtnBirthDateSet : p == BirthTime ? a->BtnBirthTimeSet : a->BtnWakeupTimeSet;
+// A picker's editor, the button showing its value and the button that sets it.
+struct Parts {
+    QDateTimeEdit* edit;
+    Button* value;
+    Button* set;
+};
+Parts PartsOf(Frame_Alarm* a, Picker p) {
+    if (p == BirthDate) return {a->txtBirthDate, a->BtnBirthDate, a->BtnBirthDateSet};
+    if (p == BirthTime) return {a->txtBirthTime, a->BtnBirthTime, a->BtnBirthTimeSet};
+    return {a->txtWakeupTime, a->BtnWakeupTime, a->BtnWakeupTimeSet};
 }
 
 // The alarm screen with the editor of one picker open, reached by clicks from the main menu.
@@ -57,8 +49,8 @@ Frame_Alarm* OpenEditor(AppHarness& app, Picker p) {
         app.click(a->BtnBirthdayStatus);
         app.click(a->BtnBirthdayOn);
     }
-    app.click(ValueButtonOf(a, p));
-    return PickerOf(a, p)->isVisible() ? a : nullptr;
+    app.click(PartsOf(a, p).value);
+    return PartsOf(a, p).edit->isVisible() ? a : nullptr;
 }
 
 // Keys go in at the window, to the picker the user clicked into: Home, then the first section
@@ -129,7 +121,8 @@ private slots:
         AppHarness app;
         Frame_Alarm* a = OpenEditor(app, Picker(picker));
         QVERIFY(a);
-        QDateTimeEdit* edit = PickerOf(a, Picker(picker));
+        const Parts parts = PartsOf(a, Picker(picker));
+        QDateTimeEdit* edit = parts.edit;
         // The day the application is started on, at that time of day.
         edit->setDateTime(QDateTime(QDate(2026, 11, 24), startedAt, edit->timeSpec()));
         app.click(edit);
@@ -140,12 +133,12 @@ private slots:
         // the pickers do not wrap around.
         QTest::keyClick(app.handle(), Qt::Key(beyond));
         QCOMPARE(edit->text(), typed);
-        app.click(SetButtonOf(a, Picker(picker)));
-        QCOMPARE(ValueButtonOf(a, Picker(picker))->captionText(), typed);
+        app.click(parts.set);
+        QCOMPARE(parts.value->captionText(), typed);
         QVERIFY(!edit->isVisible()); // Set closed the editor
 
         // Opened again, the picker still holds what was set.
-        app.click(ValueButtonOf(a, Picker(picker)));
+        app.click(parts.value);
         QCOMPARE(edit->text(), typed);
     }
 };

@@ -3,25 +3,22 @@
 #include <QMouseEvent>
 #include <QTest>
 
+#include <functional>
+
 namespace {
-// What callbacks saw: which callback, with which context, for which button.
+// What the callbacks saw, in order: which callback, with which context, for which button.
 struct Call {
     QString what;
     void* context;
     Button* button;
-    bool operator==(const Call&) const = default;
 };
 QList<Call> calls;
-void onAction(void* c, Button* b) {
-    calls << Call{QStringLiteral("action"), c, b};
+template <const char* What> void Record(void* c, Button* b) {
+    calls << Call{QString::fromLatin1(What), c, b};
 }
-void onEntered(void* c, Button* b) {
-    calls << Call{QStringLiteral("entered"), c, b};
-}
-void onExited(void* c, Button* b) {
-    calls << Call{QStringLiteral("exited"), c, b};
-}
-void hideOnRelease(void*, Button* b) {
+constexpr char kAction[] = "action", kEntered[] = "entered", kExited[] = "exited", kHid[] = "hid";
+void HideOnRelease(void* c, Button* b) {
+    Record<kHid>(c, b);
     b->setHidden(true);
 }
 
@@ -38,65 +35,66 @@ protected:
     }
 };
 
-// A real shown window with one page and two buttons.
+// A real shown window with one page and two buttons; b covers a's right end.
 struct Host {
     QWidget window;
     Page* page = new Page(MakeNSRect(0, 0, 400, 300));
     Button* a = new Button(MakeNSRect(50, 50, 100, 40));
-    Button* b = new Button(MakeNSRect(250, 50, 100, 40));
-    int ctxA = 0, ctxB = 0, ctxC = 0;
+    Button* b = new Button(MakeNSRect(120, 50, 100, 40));
+    int ctxAction = 0, ctxEntered = 0, ctxExited = 0;
 
     Host() {
-        window.resize(400, 300);
+        window.resize(500, 300); // the page leaves a strip on the right
         NSViewS::AddSubview(&window, page);
-        a->InitImage(QStringLiteral("up"), QStringLiteral("move"), QStringLiteral("down"),
-                     QStringLiteral("png"), page);
-        b->InitImage(QStringLiteral("up"), QStringLiteral("move"), QStringLiteral("down"),
-                     QStringLiteral("png"), page);
-        a->InitButtonAction(onAction, &ctxA);
-        a->InitButtonEntered(onEntered, &ctxB);
-        a->InitButtonExited(onExited, &ctxC);
+        for (Button* button : {a, b})
+            button->InitImage(QStringLiteral("up"), QStringLiteral("move"), QStringLiteral("down"),
+                              QStringLiteral("png"), page);
+        a->InitButtonAction(Record<kAction>, &ctxAction);
+        a->InitButtonEntered(Record<kEntered>, &ctxEntered);
+        a->InitButtonExited(Record<kExited>, &ctxExited);
         calls.clear();
-    }
-    void show() {
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        // The pointer starts away from the buttons: a move to where it already is would be none.
-        move(QPoint(1, 1));
+        move(QPoint(1, 1)); // the pointer starts away from the buttons
     }
-    QWindow* w() { return window.windowHandle(); }
-    void move(QPoint p) { QTest::mouseMove(w(), p); }
-    void press(QPoint p) { QTest::mousePress(w(), Qt::LeftButton, Qt::NoModifier, p); }
-    void release(QPoint p) { QTest::mouseRelease(w(), Qt::LeftButton, Qt::NoModifier, p); }
+    void move(QPoint p) { QTest::mouseMove(window.windowHandle(), p); }
+    void press(QPoint p) { QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, p); }
+    void release(QPoint p) { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, p); }
 };
 
-const QPoint inA(100, 70), outside(200, 200);
+const QPoint inA(100, 70), inBoth(130, 70), outside(200, 200);
 
-// A step of a script: what the hand or the program does.
-enum Step {
-    PressA,
-    ReleaseA,
-    ReleaseOutside,
-    MoveInA,
-    MoveInsideA, // a few pixels further, still in A
-    MoveOutside,
-    RegisterA,
-    Disable,
-    Enable,
-    HideA,
-    ShowA,
-    HidePage,
-    ShowPage,
-    MoveADown, // the button moves 100 points down
-};
-
-// What the callbacks of button A saw, as "entered", "action", "exited".
-QStringList Seen() {
-    QStringList seen;
-    for (const Call& c : calls) seen << c.what;
-    return seen;
+// What the hand or the program does, by name.
+const QHash<QString, std::function<void(Host&)>>& Steps() {
+    static const QHash<QString, std::function<void(Host&)>> steps = {
+        {"press", [](Host& h) { h.press(inA); }},
+        {"release", [](Host& h) { h.release(inA); }},
+        {"releaseOutside", [](Host& h) { h.release(outside); }},
+        {"in", [](Host& h) { h.move(inA); }},
+        {"furtherIn", [](Host& h) { h.move(inA + QPoint(3, 3)); }},
+        {"out", [](Host& h) { h.move(outside); }},
+        {"register", [](Host& h) { h.a->RegisterHover(); }},
+        {"disable", [](Host& h) { h.a->SetEnable(0); }},
+        {"enable", [](Host& h) { h.a->SetEnable(1); }},
+        {"hide", [](Host& h) { h.a->setHidden(true); }},
+        {"show", [](Host& h) { h.a->setHidden(false); }},
+        {"hidePage", [](Host& h) { h.page->setHidden(true); }},
+        {"showPage", [](Host& h) { h.page->setHidden(false); }},
+        {"moveDown", [](Host& h) { h.a->setFrame(MakeNSRect(50, 150, 100, 40)); }},
+        {"halfOff", [](Host& h) { h.a->setFrame(MakeNSRect(350, 50, 100, 40)); }}, // past the page's edge
+        {"inHalfOff", [](Host& h) { h.move(QPoint(380, 70)); }},
+        {"pastPage", [](Host& h) { h.move(QPoint(420, 70)); }},
+        {"pressBoth", [](Host& h) { h.press(inBoth); }},
+        {"releaseBoth", [](Host& h) { h.release(inBoth); }},
+        {"hideOnRelease", [](Host& h) { h.a->InitButtonAction(HideOnRelease, &h.ctxAction); }},
+        {"picturesAgain", // brings a to the front, where it was
+         [](Host& h) {
+             h.a->InitImage(QStringLiteral("up2"), QString(), QString(), QStringLiteral("png"), h.page);
+             QCOMPARE(h.a->geometry(), QRect(50, 50, 100, 40));
+         }},
+    };
+    return steps;
 }
-
 } // namespace
 
 // The image button under the mouse: pictures per state, the action on release, and hover
@@ -105,141 +103,67 @@ class TestButton : public QObject {
     Q_OBJECT
 private slots:
     void scripts_data() {
-        QTest::addColumn<QList<int>>("steps");
+        QTest::addColumn<QString>("script");
         QTest::addColumn<QStringList>("seen");
-        QTest::addColumn<int>("look");
+        QTest::addColumn<QString>("look");
         QTest::addColumn<int>("pagePresses");
-        const int up = int(Button::Look::Up), move = int(Button::Look::Move), down = int(Button::Look::Down);
-        QTest::newRow("press shows down") << QList<int>{PressA} << QStringList{} << down << 0;
-        QTest::newRow("release acts once")
-            << QList<int>{PressA, ReleaseA} << QStringList{"action"} << up << 0;
+        const QStringList none;
+        QTest::newRow("press shows down") << "press" << none << "down" << 0;
+        QTest::newRow("release acts once") << "press release" << QStringList{"action"} << "up" << 0;
         QTest::newRow("dragged off, still acts")
-            << QList<int>{PressA, MoveOutside, ReleaseOutside} << QStringList{"action"} << up << 0;
-        QTest::newRow("pointing without registration")
-            << QList<int>{MoveInA, MoveOutside} << QStringList{} << up << 0;
-        QTest::newRow("enter, act, exit") << QList<int>{RegisterA, MoveInA, PressA, ReleaseA, MoveOutside}
-                                          << QStringList{"entered", "action", "exited"} << up << 0;
+            << "press out releaseOutside" << QStringList{"action"} << "up" << 0;
+        QTest::newRow("pointing without registration") << "in out" << none << "up" << 0;
+        QTest::newRow("enter, act, exit")
+            << "register in press release out" << QStringList{"entered", "action", "exited"} << "up" << 0;
         QTest::newRow("one event per registration")
-            << QList<int>{RegisterA, RegisterA, MoveInA, MoveInsideA, MoveOutside}
-            << QStringList{"entered", "entered", "exited", "exited"} << up << 0;
-        QTest::newRow("under the pointer")
-            << QList<int>{RegisterA, MoveInA} << QStringList{"entered"} << move << 0;
+            << "register register in furtherIn out" << QStringList{"entered", "entered", "exited", "exited"}
+            << "up" << 0;
+        QTest::newRow("under the pointer") << "register in" << QStringList{"entered"} << "move" << 0;
         QTest::newRow("disabled ignores the mouse, the page takes the press")
-            << QList<int>{RegisterA, Disable, MoveInA, PressA, ReleaseA, MoveOutside} << QStringList{} << up
-            << 1;
+            << "register disable in press release out" << none << "up" << 1;
         QTest::newRow("enabled again, no new registration needed")
-            << QList<int>{RegisterA, Disable, Enable, MoveInA, PressA, ReleaseA}
-            << QStringList{"entered", "action"} << up << 0;
+            << "register disable enable in press release" << QStringList{"entered", "action"} << "up" << 0;
         QTest::newRow("disabling keeps the picture shown")
-            << QList<int>{RegisterA, MoveInA, Disable, MoveOutside} << QStringList{"entered"} << move << 0;
+            << "register in disable out" << QStringList{"entered"} << "move" << 0;
         QTest::newRow("registered while hidden: never fires")
-            << QList<int>{HideA, RegisterA, ShowA, MoveInA, MoveOutside} << QStringList{} << up << 0;
+            << "hide register show in out" << none << "up" << 0;
         QTest::newRow("registered while the page was hidden: never fires")
-            << QList<int>{HidePage, RegisterA, ShowPage, MoveInA, MoveOutside} << QStringList{} << up << 0;
+            << "hidePage register showPage in out" << none << "up" << 0;
         QTest::newRow("registration stays where it was made")
-            << QList<int>{RegisterA, MoveADown, MoveInA} << QStringList{"entered"} << move << 0;
+            << "register moveDown in" << QStringList{"entered"} << "move" << 0;
+        QTest::newRow("only the part on view is registered")
+            << "halfOff register inHalfOff pastPage" << QStringList{"entered", "exited"} << "up" << 0;
+        QTest::newRow("setting pictures again brings it to the front")
+            << "picturesAgain pressBoth releaseBoth" << QStringList{"action"} << "up" << 0;
+        QTest::newRow("a callback that hides the button has the last word")
+            << "hideOnRelease press release" << QStringList{"hid"} << "hidden" << 0;
     }
 
     void scripts() {
-        QFETCH(QList<int>, steps);
+        QFETCH(QString, script);
         QFETCH(QStringList, seen);
-        QFETCH(int, look);
+        QFETCH(QString, look);
         QFETCH(int, pagePresses);
         Host h;
-        h.show();
-        for (const int step : steps) {
-            switch (Step(step)) {
-            case PressA:
-                h.press(inA);
-                break;
-            case ReleaseA:
-                h.release(inA);
-                break;
-            case ReleaseOutside:
-                h.release(outside);
-                break;
-            case MoveInA:
-                h.move(inA);
-                break;
-            case MoveInsideA:
-                h.move(inA + QPoint(3, 3));
-                break;
-            case MoveOutside:
-                h.move(outside);
-                break;
-            case RegisterA:
-                h.a->RegisterHover();
-                break;
-            case Disable:
-                h.a->SetEnable(0);
-                break;
-            case Enable:
-                h.a->SetEnable(1);
-                break;
-            case HideA:
-                h.a->setHidden(true);
-                break;
-            case ShowA:
-                h.a->setHidden(false);
-                break;
-            case HidePage:
-                h.page->setHidden(true);
-                break;
-            case ShowPage:
-                h.page->setHidden(false);
-                break;
-            case MoveADown:
-                h.a->setFrame(MakeNSRect(50, 150, 100, 40));
-                break;
-            }
+        for (const QString& step : script.split(QLatin1Char(' '))) {
+            QVERIFY2(Steps().contains(step), qPrintable(step));
+            Steps().value(step)(h);
         }
-        QCOMPARE(Seen(), seen);
-        QCOMPARE(int(h.a->look()), look);
+        const QHash<QString, void*> contexts = {{"action", &h.ctxAction},
+                                                {"hid", &h.ctxAction},
+                                                {"entered", &h.ctxEntered},
+                                                {"exited", &h.ctxExited}};
+        QStringList saw;
+        for (const Call& c : calls) {
+            saw << c.what;
+            QCOMPARE(c.button, h.a);
+            QCOMPARE(c.context, contexts.value(c.what)); // each callback gets its own context
+        }
+        QCOMPARE(saw, seen);
+        const char* looks[] = {"up", "move", "down"};
+        QCOMPARE(h.a->isHidden() ? QStringLiteral("hidden") : QString::fromLatin1(looks[int(h.a->look())]),
+                 look);
         QCOMPARE(h.page->presses, pagePresses);
-        for (const Call& c : calls) QCOMPARE(c.button, h.a);
-    }
-
-    // Each callback is called with the context given at its own registration.
-    void eachCallbackGetsItsOwnContext() {
-        Host h;
-        h.show();
-        h.a->RegisterHover();
-        h.move(inA);
-        h.press(inA);
-        h.release(inA);
-        h.move(outside);
-        QCOMPARE(calls, (QList<Call>{{QStringLiteral("entered"), &h.ctxB, h.a},
-                                     {QStringLiteral("action"), &h.ctxA, h.a},
-                                     {QStringLiteral("exited"), &h.ctxC, h.a}}));
-    }
-
-    void onlyThePartOnViewIsRegistered() {
-        Host h;
-        h.a->setFrame(MakeNSRect(350, 50, 100, 40)); // half past the page's right edge
-        h.show();
-        h.a->RegisterHover();
-        h.move(QPoint(380, 70));
-        QCOMPARE(h.a->look(), Button::Look::Move);
-    }
-
-    void settingPicturesAgainBringsTheButtonToTheFront() {
-        Host h;
-        h.b->setFrame(MakeNSRect(100, 50, 100, 40)); // overlaps a, on top of it
-        h.show();
-        h.a->InitImage(QStringLiteral("up2"), QString(), QString(), QStringLiteral("png"), h.page);
-        h.press(QPoint(120, 70));
-        h.release(QPoint(120, 70));
-        QCOMPARE(Seen(), QStringList{"action"});
-        QCOMPARE(h.a->geometry(), QRect(50, 50, 100, 40)); // it kept its frame
-    }
-
-    void aCallbackThatHidesTheButtonHasTheLastWord() {
-        Host h;
-        h.a->InitButtonAction(hideOnRelease, nullptr);
-        h.show();
-        h.press(inA);
-        h.release(inA);
-        QVERIFY(h.a->isHidden());
     }
 };
 
