@@ -3,27 +3,9 @@
 #include "Button.h"
 #include "CaptionAccessible.h"
 
-#include <QHash>
 #include <QPointer>
 
 namespace {
-
-// A few buttons without a caption are given no name by their screen; they are named after the
-// picture they show at rest.
-QString NameOfPicture(const QString& upPicture) {
-    static const QHash<QString, QString> names = {
-        {QStringLiteral("movement"), QStringLiteral("Movement tab")},
-        {QStringLiteral("sound_over"), QStringLiteral("Sound tab")},
-        {QStringLiteral("lazer"), QStringLiteral("Laser tab")},
-        {QStringLiteral("face"), QStringLiteral("Face tab")},
-        {QStringLiteral("play"), QStringLiteral("Play")},
-        {QStringLiteral("SelectBarArrow_common"), QStringLiteral("Choose scenario")},
-        {QStringLiteral("ButtonSoundDe_common"), QStringLiteral("Volume down")},
-        {QStringLiteral("ButtonSoundPlus_common"), QStringLiteral("Volume up")},
-        {QStringLiteral("but_common_long_right_BtnSilver"), QStringLiteral("Replay")},
-    };
-    return names.value(upPicture);
-}
 
 QAccessibleInterface* Factory(const QString& className, QObject* object) {
     if (className == QLatin1String("Button")) {
@@ -87,10 +69,9 @@ QString ButtonAccessible::OneLine(const QString& caption) {
 QString ButtonAccessible::NameOf(const Button* button) {
     if (!button) return {};
     if (!button->accessibleName().isEmpty()) return button->accessibleName();
+    // Every control without a caption is named in the row that makes it.
     const QString caption = OneLine(button->captionText());
-    if (!caption.isEmpty()) return caption;
-    const QString name = NameOfPicture(button->BtnImageUp.name());
-    return name.isEmpty() ? QStringLiteral("Button") : name;
+    return caption.isEmpty() ? QStringLiteral("Button") : caption;
 }
 
 void ButtonAccessible::Install() {

@@ -90,18 +90,19 @@ void Frame_Sound::ButtonInit() {
 
     const Layout::Caption erase{"Erase", NSColor::grayColor(), MakeNSRect(22, 11, 46, 18), 15};
     const Layout::Caption back{"Back", NSColor::blackColor(), MakeNSRect(17, 11, 50, 16), 15};
-    Layout::Build(
-        this,
-        {
-            Family(&b[22], MakeNSRect(100, 612, 344, 44), "SelectBarArrow", "_common", "_focus", "_focus"),
-            Family(&b[23], MakeNSRect(520, 612, 70, 40), "ButtonSoundDe", "_common", "_common", "_common"),
-            Family(&b[24], MakeNSRect(851, 612, 70, 40), "ButtonSoundPlus", "_common", "_common", "_common"),
-            Family(&b[25], MakeNSRect(515, 712, 93, 40), "but_common_long_left", "_BtnSilver",
-                   "_over_BtnSilver", "_over_BtnSilver", nullptr, erase),
-            Family(&b[26], MakeNSRect(606, 712, 93, 40), "but_common_long_right", "_BtnSilver",
-                   "_over_BtnSilver", "_over_BtnSilver"),
-            Layout::SilverButton(&b[27], MakeNSRect(715, 712, 85, 40), back),
-        });
+    Layout::Build(this, {
+                            Family(&b[22], MakeNSRect(100, 612, 344, 44), "SelectBarArrow", "_common",
+                                   "_focus", "_focus", "Choose sound set"),
+                            Family(&b[23], MakeNSRect(520, 612, 70, 40), "ButtonSoundDe", "_common",
+                                   "_common", "_common", "Volume down"),
+                            Family(&b[24], MakeNSRect(851, 612, 70, 40), "ButtonSoundPlus", "_common",
+                                   "_common", "_common", "Volume up"),
+                            Family(&b[25], MakeNSRect(515, 712, 93, 40), "but_common_long_left", "_BtnSilver",
+                                   "_over_BtnSilver", "_over_BtnSilver", nullptr, erase),
+                            Family(&b[26], MakeNSRect(606, 712, 93, 40), "but_common_long_right",
+                                   "_BtnSilver", "_over_BtnSilver", "_over_BtnSilver", "Replay"),
+                            Layout::SilverButton(&b[27], MakeNSRect(715, 712, 85, 40), back),
+                        });
 }
 
 void Frame_Sound::InitInterWorking() {
