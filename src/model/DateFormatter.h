@@ -12,8 +12,6 @@ public:
     // intent stays visible where the formatter is made.
     DateFormatter(const QString& format, bool allowNaturalLanguage);
 
-    const QString& dateFormat() const { return m_format; }
-
     // An invalid value or an empty format gives an empty text.
     QString stringFromDate(const QDateTime& date) const;
 
