@@ -4,48 +4,38 @@
 #include <QTest>
 #include <QTimeZone>
 
-#include <functional>
-#include <map>
-
 namespace {
 
 // Values in UTC, with no zone to move them, so the texts are the same on any machine, any day.
 const QDateTime kMade(QDate(2009, 3, 7), QTime(7, 5, 59), QTimeZone::utc());
 const QDateTime kPicked(QDate(1999, 12, 31), QTime(23, 59), QTimeZone::utc());
 
-void Do(AlarmFlow& f, const QString& action) {
-    using E = AlarmFlow::Editor;
-    static const std::map<QString, std::function<void(AlarmFlow&)>> actions = {
-        {"birthday", [](AlarmFlow& f) { f.PressBirthdayStatus(); }},
-        {"wakeup", [](AlarmFlow& f) { f.PressWakeupStatus(); }},
-        {"birthdayOn", [](AlarmFlow& f) { f.BirthdayOn(); }},
-        {"birthdayOff", [](AlarmFlow& f) { f.BirthdayOff(); }},
-        {"wakeupOn", [](AlarmFlow& f) { f.WakeupOn(); }},
-        {"wakeupOff", [](AlarmFlow& f) { f.WakeupOff(); }},
-        {"dateEditor", [](AlarmFlow& f) { f.OpenEditor(E::BirthDate); }},
-        {"timeEditor", [](AlarmFlow& f) { f.OpenEditor(E::BirthTime); }},
-        {"wakeupEditor", [](AlarmFlow& f) { f.OpenEditor(E::WakeupTime); }},
-        {"setDate", [](AlarmFlow& f) { f.SetBirthDate(kPicked); }},
-        {"setTime", [](AlarmFlow& f) { f.SetBirthTime(kPicked); }},
-        {"setWakeup", [](AlarmFlow& f) { f.SetWakeupTime(kPicked); }},
-        {"freq2", [](AlarmFlow& f) { f.ChooseFrequency(2); }},
-        {"freq3", [](AlarmFlow& f) { f.ChooseFrequency(3); }},
-        {"back", [](AlarmFlow& f) { f.BackToChoose(); }},
-        {"done", [](AlarmFlow& f) { f.Done(); }},
-        {"timer", [](AlarmFlow& f) { f.DoneView(); }},
-    };
-    actions.at(action)(f);
+void Do(AlarmFlow& f, const QString& a) {
+    using F = AlarmFlow;
+    static const QStringList plainNames = {"bday", "wake", "bOn",  "bOff", "wOn",
+                                           "wOff", "back", "done", "timer"};
+    static void (F::*const plain[])() = {
+        &F::PressBirthdayStatus, &F::PressWakeupStatus, &F::BirthdayOn, &F::BirthdayOff, &F::WakeupOn,
+        &F::WakeupOff,           &F::BackToChoose,      &F::Done,       &F::DoneView};
+    static const QStringList setNames = {"setDate", "setTime", "setWake"};
+    static void (F::*const set[])(const QDateTime&) = {&F::SetBirthDate, &F::SetBirthTime, &F::SetWakeupTime};
+    static const QStringList editors = {"", "dateEd", "timeEd", "wakeEd"};
+    if (const qsizetype i = plainNames.indexOf(a); i >= 0) return (f.*plain[i])();
+    if (const qsizetype i = setNames.indexOf(a); i >= 0) return (f.*set[i])(kPicked);
+    if (a.startsWith('q')) return f.ChooseFrequency(a.mid(1).toInt());
+    QVERIFY(editors.indexOf(a) > 0);
+    f.OpenEditor(F::Editor(editors.indexOf(a)));
 }
 
 // The whole state in one line: page[/editor], Back's target, the page flag, which alarms are
 // on (birthday, wake-up), the frequency, which On/Off pairs were pressed, and a running timer.
 QString Describe(const AlarmFlow& f) {
-    static const char* const pages[] = {"choose", "birthday", "wakeup", "confirm"};
-    static const char* const editors[] = {"", "/date", "/time", "/wakeup"};
+    static const char* const pages[] = {"choose", "bday", "wake", "confirm"};
+    static const char* const editors[] = {"", "/date", "/time", "/wake"};
     QString page = QString::fromLatin1(pages[int(f.page())]);
     if (f.page() == AlarmFlow::Page::Confirmation)
-        page += f.confirmation() == AlarmFlow::Alarm::Wakeup ? "(wakeup)" : "(birthday)";
-    return QStringLiteral("%1%2 back:%3 flag:%4 on:%5%6 freq:%7 pressed:%8%9%10")
+        page += f.confirmation() == AlarmFlow::Alarm::Wakeup ? "(wake)" : "(bday)";
+    return QStringLiteral("%1%2 <%3 f%4 on%5%6 q%7 p%8%9%10")
         .arg(page, QLatin1String(editors[int(f.editor())]),
              f.backTarget() == AlarmFlow::Back::MainMenu ? "main" : "choose")
         .arg(f.flagBirthdayWakeup())
@@ -68,48 +58,25 @@ private slots:
         const auto row = [](const char* name, const QString& actions, const char* state) {
             QTest::newRow(name) << actions.split(' ', Qt::SkipEmptyParts) << QString::fromLatin1(state);
         };
-        row("made on the choose page", "", "choose back:main flag:0 on:00 freq:0 pressed:00");
-        row("birthday page", "birthday", "birthday back:choose flag:1 on:00 freq:0 pressed:00");
-        row("wake-up page", "wakeup", "wakeup back:choose flag:2 on:00 freq:0 pressed:00");
-        row("statuses only on the choose page", "birthday wakeup",
-            "birthday back:choose flag:1 on:00 freq:0 pressed:00");
-        row("birthday on", "birthday birthdayOn", "birthday back:choose flag:1 on:10 freq:0 pressed:10");
-        row("birthday off", "birthday birthdayOn birthdayOff",
-            "birthday back:choose flag:1 on:00 freq:0 pressed:10");
-        row("wake-up on", "wakeup wakeupOn", "wakeup back:choose flag:2 on:01 freq:0 pressed:01");
-        row("wake-up off", "wakeup wakeupOn wakeupOff", "wakeup back:choose flag:2 on:00 freq:0 pressed:01");
-        row("an editor opens", "birthday birthdayOn dateEditor",
-            "birthday/date back:choose flag:1 on:10 freq:0 pressed:10");
-        row("one editor at a time", "birthday birthdayOn dateEditor timeEditor",
-            "birthday/time back:choose flag:1 on:10 freq:0 pressed:10");
-        row("an open editor stays open", "birthday birthdayOn timeEditor timeEditor",
-            "birthday/time back:choose flag:1 on:10 freq:0 pressed:10");
-        row("birthday off closes its editor", "birthday birthdayOn dateEditor birthdayOff",
-            "birthday back:choose flag:1 on:00 freq:0 pressed:10");
-        row("wake-up off closes its editor", "wakeup wakeupOn wakeupEditor wakeupOff",
-            "wakeup back:choose flag:2 on:00 freq:0 pressed:01");
-        row("Set closes its editor", "wakeup wakeupOn wakeupEditor setWakeup",
-            "wakeup back:choose flag:2 on:01 freq:0 pressed:01");
-        row("Set leaves another editor open", "birthday birthdayOn dateEditor setTime",
-            "birthday/date back:choose flag:1 on:10 freq:0 pressed:10");
-        row("frequency", "wakeup wakeupOn freq2", "wakeup back:choose flag:2 on:01 freq:2 pressed:01");
-        row("no fourth frequency", "wakeup freq2 freq3", "wakeup back:choose flag:2 on:00 freq:2 pressed:00");
-        row("Back keeps the settings, closes the editor", "birthday birthdayOn dateEditor back",
-            "choose back:main flag:1 on:10 freq:0 pressed:10");
-        row("Back on the choose page is the screen's", "back",
-            "choose back:main flag:0 on:00 freq:0 pressed:00");
-        row("Done with the alarm off: no confirmation", "birthday done",
-            "choose back:main flag:1 on:00 freq:0 pressed:00");
-        row("Done confirms the birthday", "birthday birthdayOn timeEditor done",
-            "confirm(birthday) back:choose flag:1 on:10 freq:0 pressed:10 timer");
-        row("Done confirms the wake-up alarm", "wakeup wakeupOn done",
-            "confirm(wakeup) back:choose flag:2 on:01 freq:0 pressed:01 timer");
-        row("Done asks only the page's alarm", "birthday birthdayOn back wakeup done",
-            "choose back:main flag:2 on:10 freq:0 pressed:10");
-        row("Done only on an alarm page", "birthday birthdayOn back done",
-            "choose back:main flag:1 on:10 freq:0 pressed:10");
-        row("the confirmation ends on the choose page", "wakeup wakeupOn done timer",
-            "choose back:main flag:2 on:01 freq:0 pressed:01");
+        row("Back on the choose page is the screen's", "back", "choose <main f0 on00 q0 p00");
+        row("statuses only on the choose page", "bday wake", "bday <choose f1 on00 q0 p00");
+        row("one editor at a time", "bday bOn dateEd timeEd", "bday/time <choose f1 on10 q0 p10");
+        row("an open editor stays open", "bday bOn timeEd timeEd", "bday/time <choose f1 on10 q0 p10");
+        row("birthday off closes its editor", "bday bOn dateEd bOff", "bday <choose f1 on00 q0 p10");
+        row("wake-up off closes its editor", "wake wOn wakeEd wOff", "wake <choose f2 on00 q0 p01");
+        row("Set closes its editor", "wake wOn wakeEd setWake", "wake <choose f2 on01 q0 p01");
+        row("Set leaves another editor open", "bday bOn dateEd setTime", "bday/date <choose f1 on10 q0 p10");
+        row("frequency", "wake wOn q2", "wake <choose f2 on01 q2 p01");
+        row("no fourth frequency", "wake q2 q3", "wake <choose f2 on00 q2 p00");
+        row("Back keeps the settings, closes the editor", "bday bOn dateEd back",
+            "choose <main f1 on10 q0 p10");
+        row("Done with the alarm off: no confirmation", "bday done", "choose <main f1 on00 q0 p00");
+        row("Done confirms the birthday", "bday bOn timeEd done",
+            "confirm(bday) <choose f1 on10 q0 p10 timer");
+        row("Done confirms the wake-up alarm", "wake wOn done", "confirm(wake) <choose f2 on01 q0 p01 timer");
+        row("Done asks only the page's alarm", "bday bOn back wake done", "choose <main f2 on10 q0 p10");
+        row("Done only on an alarm page", "bday bOn back done", "choose <main f1 on10 q0 p10");
+        row("the confirmation ends on the choose page", "wake wOn done timer", "choose <main f2 on01 q0 p01");
     }
     void flow() {
         QFETCH(QStringList, actions);
@@ -126,13 +93,14 @@ private slots:
         QCOMPARE(Describe(f), state);
     }
 
+    // Each Set writes its own text from the picker's value and keeps the value for the picker.
     void texts_data() {
         QTest::addColumn<QString>("set");
         QTest::addColumn<QStringList>("texts"); // birthday date, birthday time, wake-up time
         QTest::newRow("made from the first value") << "" << QStringList{"2009/03/07", "07/05", "07/05"};
         QTest::newRow("birthday date") << "setDate" << QStringList{"1999/12/31", "07/05", "07/05"};
         QTest::newRow("birthday time") << "setTime" << QStringList{"2009/03/07", "23/59", "07/05"};
-        QTest::newRow("wake-up time") << "setWakeup" << QStringList{"2009/03/07", "07/05", "23/59"};
+        QTest::newRow("wake-up time") << "setWake" << QStringList{"2009/03/07", "07/05", "23/59"};
     }
     void texts() {
         QFETCH(QString, set);
@@ -142,7 +110,6 @@ private slots:
         QCOMPARE((QStringList{f.formattedBirthDateString(), f.formattedBirthTimeString(),
                               f.formattedWakeupTimeString()}),
                  texts);
-        // The value is kept as the picker held it, for the picker to start from.
         const QDateTime& held = set == "setDate"   ? f.birthDate()
                                 : set == "setTime" ? f.birthTime()
                                                    : f.wakeupTime();
@@ -152,7 +119,7 @@ private slots:
     // The one test of the timer itself: five seconds, once, and its end is the choose page.
     void confirmationTimer() {
         AlarmFlow f(kMade);
-        for (const char* action : {"birthday", "birthdayOn", "done"}) Do(f, action);
+        for (const char* action : {"bday", "bOn", "done"}) Do(f, action);
         const QTimer* timer = f.timer();
         QVERIFY(timer->isActive());
         QCOMPARE(timer->interval(), 5000);
