@@ -52,8 +52,8 @@ QStringList AppInvariants::checkPath() const {
     bool inStep = pieces >= 0 && pieces <= PathPlacement::kMaxPieces && ChildWidgets(m->frmPath) == pieces;
     for (qint32 i = 0; i < PathPlacement::kMaxPieces && inStep; ++i)
         inStep = (m->PathImg[i] != nullptr) == (i < pieces);
-    return inStep ? QStringList()
-                  : QStringList{QStringLiteral("path views out of step with %1 pieces").arg(pieces)};
+    if (!inStep) return {QStringLiteral("path views out of step with %1 pieces").arg(pieces)};
+    return {};
 }
 
 // At rest every item also stands where the layout puts it for the page on view.

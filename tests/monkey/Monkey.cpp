@@ -57,8 +57,6 @@ bool IsControl(const QWidget* w) {
 
 } // namespace
 
-Monkey::Monkey(AppHarness& app, quint64 seed) : m_app(app), m_rules(app.root()), m_rng(seed) {}
-
 QPoint Monkey::aim() {
     // Done with an alarm on holds the screen for seconds under the confirmation page; aimed at
     // as often as the rest it would spend most of a run waiting.
@@ -148,11 +146,10 @@ QString Monkey::Result::summary() const {
     for (auto it = inputsOn.cbegin(); it != inputsOn.cend(); ++it)
         text += QStringLiteral("%1 on %2, ").arg(it.value()).arg(it.key());
     if (ok()) return text + QStringLiteral("every rule held)");
-    return text + QStringLiteral("rules broken after input %1):\n").arg(failedAt) +
-           (broken + trace).join('\n') +
-           QStringLiteral("\n  replay: ROBOT_MONKEY_SEED=%1 ROBOT_MONKEY_INPUTS=%2")
-               .arg(seed)
-               .arg(failedAt + 1);
+    text += QStringLiteral("rules broken after input %1):\n").arg(failedAt) + (broken + trace).join('\n');
+    return text + QStringLiteral("\nreplay: ROBOT_MONKEY_SEED=%1 ROBOT_MONKEY_INPUTS=%2")
+                      .arg(seed)
+                      .arg(failedAt + 1);
 }
 
 Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool(qint64 done)>& progress) {

@@ -39,7 +39,7 @@ public:
     static void FromEnvironment(QList<quint64>& seeds, qint64& inputs);
 
 private:
-    Monkey(AppHarness& app, quint64 seed);
+    Monkey(AppHarness& app, quint64 seed) : m_app(app), m_rules(app.root()), m_rng(seed) {}
     int step(); // answers the kind of input sent
     // After every event: false once a rule broke, and then nothing more is sent.
     bool holds() {
@@ -50,9 +50,8 @@ private:
     int below(int bound) { return bound <= 1 ? 0 : std::uniform_int_distribution<int>(0, bound - 1)(m_rng); }
     bool chance(int percent) { return below(100) < percent; }
     QPoint anywhere() { return NotCorner({below(1024), below(768)}); }
-    static QPoint NotCorner(QPoint p) {
-        return p.isNull() ? QPoint(0, 1) : p;
-    }             // (0, 0) is "the middle" to QTest
+    // (0, 0) is "the middle" to QTest.
+    static QPoint NotCorner(QPoint p) { return p.isNull() ? QPoint(0, 1) : p; }
     QPoint aim(); // on a control of the screen on view
     bool move(QPoint p) {
         m_app.moveTo(p);

@@ -63,8 +63,7 @@ private slots:
         QCOMPARE(invariants.check(), QStringList());
         corrupt(app.root());
         const QStringList broken = invariants.check();
-        QVERIFY2(broken.join(QLatin1Char('\n')).contains(reported),
-                 qPrintable(broken.join(QStringLiteral(" | "))));
+        QVERIFY2(broken.join('\n').contains(reported), qPrintable(broken.join('\n')));
     }
 };
 
