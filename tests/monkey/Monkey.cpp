@@ -154,8 +154,7 @@ QString Monkey::Result::summary() const {
 
 Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool(qint64 done)>& progress) {
     // Said first: a sanitizer stops the process at once, and the seed must be on record then.
-    std::fprintf(stderr, "%s\n",
-                 qPrintable(QStringLiteral("monkey: seed %1, %2 inputs").arg(seed).arg(inputs)));
+    std::fprintf(stderr, "monkey: seed %llu, %lld inputs\n", seed, inputs);
     std::fflush(stderr);
     Result result{seed, inputs};
     AppHarness app;
