@@ -15,13 +15,13 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace {
 
 // Direct child widgets, the only ones a view lays out itself.
-int ChildWidgets(const QWidget* view) {
-    int count = 0;
-    for (const QObject* child : view->children()) count += child->isWidgetType() ? 1 : 0;
-    return count;
+qsizetype ChildWidgets(const QWidget* view) {
+    return view->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size();
 }
 
 bool Shown(const QWidget* w) {
@@ -40,16 +40,10 @@ QStringList AppInvariants::checkScreens() const {
     const QWidget* screens[] = {m_root->frmMainMenu, m_root->frmScenario, m_root->frmAlarm,
                                 m_root->frmMovement, m_root->frmSound,    m_root->frmFace,
                                 m_root->frmLazer};
-    QStringList shown;
-    for (const QWidget* screen : screens)
-        if (Shown(screen)) shown << QString::fromLatin1(screen->metaObject()->className());
-    const QWidget* expected = screens[int(m_root->navigator().shown())];
-    if (shown.size() != 1 || !Shown(expected))
-        return {
-            QStringLiteral("%1 screens shown (%2), the navigator's is %3")
-                .arg(shown.size())
-                .arg(shown.join(QStringLiteral(", ")), QLatin1String(expected->metaObject()->className()))};
-    return {};
+    const int expected = int(m_root->navigator().shown());
+    const auto shown = std::count_if(std::begin(screens), std::end(screens), Shown);
+    if (shown == 1 && Shown(screens[expected])) return {};
+    return {QStringLiteral("%1 screens shown, the navigator's is %2").arg(shown).arg(expected)};
 }
 
 QStringList AppInvariants::checkPath() const {
@@ -87,105 +81,67 @@ QStringList AppInvariants::checkTimeline() const {
 QStringList AppInvariants::checkAlarm() const {
     using Page = AlarmFlow::Page;
     using Editor = AlarmFlow::Editor;
-    QStringList broken;
     const Frame_Alarm* a = m_root->frmAlarm;
-    const AlarmFlow& flow = a->flow;
-    const struct {
-        const QWidget* view;
-        bool expected;
-    } views[] = {
-        {a->frmChooseView, flow.page() == Page::Choose},
-        {a->frmBirthdayControlView, flow.page() == Page::Birthday},
-        {a->frmWakeupControlView, flow.page() == Page::Wakeup},
-        {a->frmDoneView, flow.page() == Page::Confirmation},
-        {a->frmBirthDateEditView, flow.editor() == Editor::BirthDate},
-        {a->frmBirthTimeEditView, flow.editor() == Editor::BirthTime},
-        {a->frmWakeupTimeEditView, flow.editor() == Editor::WakeupTime},
-    };
-    for (const auto& v : views)
-        if (Shown(v.view) != v.expected)
-            broken << QStringLiteral("alarm page %1, editor %2, yet view %3 is %4")
-                          .arg(int(flow.page()))
-                          .arg(int(flow.editor()))
-                          .arg(&v - views)
-                          .arg(v.expected ? QStringLiteral("hidden") : QStringLiteral("shown"));
-    const struct {
-        const Button* button;
-        const QString& text;
-    } texts[] = {{a->BtnBirthDate, flow.formattedBirthDateString()},
-                 {a->BtnBirthTime, flow.formattedBirthTimeString()},
-                 {a->BtnWakeupTime, flow.formattedWakeupTimeString()}};
-    for (const auto& t : texts)
-        if (t.button->captionText() != t.text)
-            broken << QStringLiteral("alarm button shows \"%1\", the flow \"%2\"")
-                          .arg(t.button->captionText(), t.text);
-    return broken;
+    const Page page = a->flow.page();
+    const Editor editor = a->flow.editor();
+    const std::pair<const QWidget*, bool> views[] = {
+        {a->frmChooseView, page == Page::Choose},
+        {a->frmBirthdayControlView, page == Page::Birthday},
+        {a->frmWakeupControlView, page == Page::Wakeup},
+        {a->frmDoneView, page == Page::Confirmation},
+        {a->frmBirthDateEditView, editor == Editor::BirthDate},
+        {a->frmBirthTimeEditView, editor == Editor::BirthTime},
+        {a->frmWakeupTimeEditView, editor == Editor::WakeupTime}};
+    for (const auto& [view, expected] : views)
+        if (Shown(view) != expected)
+            return {QStringLiteral("alarm views out of step with page %1, editor %2")
+                        .arg(int(page))
+                        .arg(int(editor))};
+    const std::pair<const Button*, QString> texts[] = {
+        {a->BtnBirthDate, a->flow.formattedBirthDateString()},
+        {a->BtnBirthTime, a->flow.formattedBirthTimeString()},
+        {a->BtnWakeupTime, a->flow.formattedWakeupTimeString()}};
+    for (const auto& [button, text] : texts)
+        if (button->captionText() != text) return {QStringLiteral("alarm button shows \"%1\"").arg(text)};
+    return {};
 }
 
 QStringList AppInvariants::checkSoundButtons() const {
-    QStringList broken;
-    const Frame_Sound* sound = m_root->frmSound;
+    const SoundSetBoard& board = m_root->frmSound->Board;
     for (qint32 i = Frame_Sound::kBtnSoundFirst; i <= Frame_Sound::kBtnSoundLast; ++i) {
-        const Button* b = sound->BtnButton[i];
-        if (b->captionText() != QLatin1String(SoundSetName(sound->Board.SoundOf(i))))
-            broken << QStringLiteral("sound button %1 shows \"%2\" on page %3")
-                          .arg(i)
-                          .arg(b->captionText())
-                          .arg(sound->Board.iCurSoundSetPage);
-        if ((b->BtnImageUp.name() == QLatin1String(SoundPictures::kMark)) != sound->Board.MarkOn(i))
-            broken << QStringLiteral("sound button %1 marked wrongly, %2 is chosen")
-                          .arg(i)
-                          .arg(sound->Board.iCurSoundSet);
+        const Button* b = m_root->frmSound->BtnButton[i];
+        if (b->captionText() != QLatin1String(SoundSetName(board.SoundOf(i))) ||
+            (b->BtnImageUp.name() == QLatin1String(SoundPictures::kMark)) != board.MarkOn(i))
+            return {QStringLiteral("sound button %1 out of step with its board").arg(i)};
     }
-    return broken;
+    return {};
 }
 
 QStringList AppInvariants::checkList() const {
-    QStringList broken;
     const Frame_Scenario* s = m_root->frmScenario;
     for (qint32 r = 0; r < ScenarioList::kRows; ++r) {
         const Button* row = s->BtnScenarioName[r];
         const bool inList = r < s->shownRows();
-        if (Shown(row) != inList) {
-            broken << QStringLiteral("row %1 %2 in a list of %3")
-                          .arg(r)
-                          .arg(Shown(row) ? "shown" : "hidden")
-                          .arg(s->numOfList);
-            continue;
-        }
-        if (!inList) continue;
-        if (row->captionText() != s->name(s->firstShown() + r))
-            broken << QStringLiteral("row %1 shows \"%2\", not \"%3\"")
-                          .arg(r)
-                          .arg(row->captionText(), s->name(s->firstShown() + r));
-        if ((row->BtnImageUp.name() == QLatin1String("long bar")) != (r == s->indexShow))
-            broken << QStringLiteral("row %1 wrong about the highlight bar (chosen row %2)")
-                          .arg(r)
-                          .arg(s->indexShow);
+        if (Shown(row) != inList ||
+            (inList && (row->captionText() != s->name(s->firstShown() + r) ||
+                        (row->BtnImageUp.name() == QLatin1String("long bar")) != (r == s->indexShow))))
+            return {QStringLiteral("row %1 out of step with the list").arg(r)};
     }
-    const bool hasText = !s->txtScenarioName->text().isEmpty();
-    if ((s->BtnNewCreate->bEnable != 0) != hasText)
-        broken << QStringLiteral("\"Create\" %1 with %2 characters in the name field")
-                      .arg(s->BtnNewCreate->bEnable ? QStringLiteral("enabled") : QStringLiteral("disabled"))
-                      .arg(s->txtScenarioName->text().size());
-    return broken;
+    if ((s->BtnNewCreate->bEnable != 0) == s->txtScenarioName->text().isEmpty())
+        return {QStringLiteral("\"Create\" enabled or not against the name field")};
+    return {};
 }
 
 // The robot's slide runs until it arrives and the menu comes alive then; a timeline scroll's timer
 // is kept exactly while it runs.
 QStringList AppInvariants::checkTimers() const {
-    QStringList broken;
-    const Frame_MainMenu* menu = m_root->frmMainMenu;
-    const bool arrived = menu->robotSlide.hasArrived();
-    if (menu->robotSlide.timer && menu->robotSlide.timer->isActive() == arrived)
-        broken << QStringLiteral("robot timer %1 with the robot at y %2")
-                      .arg(arrived ? QStringLiteral("runs") : QStringLiteral("stopped"))
-                      .arg(menu->robotSlide.y);
-    if (Shown(menu->BtnProgram) != arrived)
-        broken << QStringLiteral("the menu's buttons out of step with the robot");
+    const RobotSlide& slide = m_root->frmMainMenu->robotSlide;
+    if ((slide.timer && slide.timer->isActive() == slide.hasArrived()) ||
+        Shown(m_root->frmMainMenu->BtnProgram) != slide.hasArrived())
+        return {QStringLiteral("the robot's timer or the menu's buttons out of step with the robot")};
     const QTimer* scroll = m_root->frmSound->Timeline.timer;
-    if (scroll && !scroll->isActive()) broken << QStringLiteral("a scroll timer is kept but stopped");
-    return broken;
+    if (scroll && !scroll->isActive()) return {QStringLiteral("a scroll timer is kept but stopped")};
+    return {};
 }
 
 // Typing goes to the focused widget: one that is not on view would take keys the user cannot

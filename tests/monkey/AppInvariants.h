@@ -15,6 +15,7 @@ public:
     // Empty when every rule holds; otherwise one line per broken rule.
     QStringList check() const;
 
+private:
     QStringList checkScreens() const;
     QStringList checkPath() const;
     QStringList checkTimeline() const;
@@ -24,6 +25,5 @@ public:
     QStringList checkTimers() const;
     QStringList checkFocus() const;
 
-private:
     const Frame_Control* m_root;
 };

@@ -1,6 +1,5 @@
 #include "AppHarness.h"
 #include "AppInvariants.h"
-#include "Button.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
 #include "Frame_MainMenu.h"
@@ -34,16 +33,16 @@ private slots:
         }) << "timeline item 0 out of place";
         QTest::newRow("alarm") << Corruption([](Frame_Control* r) {
             r->frmAlarm->frmWakeupControlView->setHidden(false);
-        }) << "yet view 2 is shown";
+        }) << "alarm views out of step with page 0";
         QTest::newRow("sound buttons") << Corruption([](Frame_Control* r) {
             r->frmSound->BtnButton[12]->InitImage(SoundPictures::kMark, "", "", "png", r->frmSound);
-        }) << "sound button 12 marked wrongly";
+        }) << "sound button 12 out of step";
         QTest::newRow("list") << Corruption([](Frame_Control* r) {
             r->frmScenario->SetNameCaption(2, QStringLiteral("x"));
-        }) << "row 2 shows \"x\"";
+        }) << "row 2 out of step";
         QTest::newRow("timers") << Corruption([](Frame_Control* r) {
             r->frmMainMenu->robotSlide.timer->start();
-        }) << "robot timer runs";
+        }) << "the robot's timer";
         QTest::newRow("focus") << Corruption([](Frame_Control* r) {
             r->frmMainMenu->setHidden(true);
             r->frmScenario->setHidden(false);
@@ -64,8 +63,7 @@ private slots:
         QCOMPARE(invariants.check(), QStringList());
         corrupt(app.root());
         const QStringList broken = invariants.check();
-        QVERIFY2(broken.join(QLatin1Char('\n')).contains(reported),
-                 qPrintable(broken.join(QStringLiteral(" | "))));
+        QVERIFY2(broken.join('\n').contains(reported), qPrintable(broken.join('\n')));
     }
 };
 

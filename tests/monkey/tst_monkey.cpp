@@ -1,6 +1,6 @@
 #include "Frame_Control.h"
 #include "Frame_Face.h"
-#include "MonkeyRun.h"
+#include "Monkey.h"
 #include "NSApplicationMain.h"
 
 #include <QApplication>
@@ -16,16 +16,21 @@ class TestMonkey : public QObject {
 private slots:
     void rulesHoldUnderRandomInput_data() {
         QTest::addColumn<quint64>("seed");
-        for (quint64 seed : MonkeySeedsFromEnvironment({1, 2, 3}))
-            QTest::newRow(qPrintable(QStringLiteral("seed %1").arg(seed))) << seed;
+        QTest::addColumn<qint64>("inputs");
+        QList<quint64> seeds = {1, 2, 3};
+        qint64 inputs = 1500;
+        Monkey::FromEnvironment(seeds, inputs);
+        for (quint64 seed : seeds)
+            QTest::newRow(qPrintable(QStringLiteral("seed %1").arg(seed))) << seed << inputs;
     }
 
     void rulesHoldUnderRandomInput() {
         QFETCH(quint64, seed);
-        const MonkeyResult result = RunMonkey(seed, MonkeyInputsFromEnvironment(1500));
+        QFETCH(qint64, inputs);
+        const Monkey::Result result = Monkey::Run(seed, inputs);
         std::fprintf(stderr, "%s\n", qPrintable(result.summary()));
         QVERIFY2(result.ok(), qPrintable(result.summary()));
-        QCOMPARE(result.done, result.planned);
+        QCOMPARE(result.done, inputs);
         // A run that never leaves the main menu proves nothing about the other screens.
         QVERIFY2(result.inputsOn.size() >= 2, "the monkey stayed on one screen");
     }
@@ -36,7 +41,7 @@ private slots:
             for (QWidget* w : QApplication::topLevelWidgets())
                 if (Frame_Control* root = RootView(w)) root->frmFace->setHidden(false);
         });
-        const MonkeyResult result = RunMonkey(11, 100000);
+        const Monkey::Result result = Monkey::Run(11, 100000);
         QVERIFY(result.failedAt >= 0 && result.done < result.planned);
         QVERIFY(result.broken.join(QLatin1Char(' ')).contains(QLatin1String("2 screens shown")));
         QVERIFY(result.summary().contains(

@@ -6,7 +6,7 @@
 //
 // R runs of N inputs each, seeds S, S+1, ...; without --seed the seed comes from the clock.
 // ROBOT_MONKEY_SEED and ROBOT_MONKEY_INPUTS, when set, replay a reported failure.
-#include "MonkeyRun.h"
+#include "Monkey.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -29,15 +29,15 @@ int main(int argc, char** argv) {
     }
     QList<quint64> seeds;
     for (qint64 r = 0; r < values[1]; ++r) seeds << quint64(values[2] + r);
-    seeds = MonkeySeedsFromEnvironment(seeds);
-    const qint64 inputs = MonkeyInputsFromEnvironment(values[0]);
+    qint64 inputs = values[0];
+    Monkey::FromEnvironment(seeds, inputs);
 
     int failures = 0;
     qint64 total = 0;
     QElapsedTimer clock;
     clock.start();
     for (quint64 seed : seeds) {
-        const MonkeyResult result = RunMonkey(seed, inputs, [&clock](qint64 done) {
+        const Monkey::Result result = Monkey::Run(seed, inputs, [&clock](qint64 done) {
             std::fprintf(stderr, "  %lld inputs, %.0f s\n", static_cast<long long>(done),
                          clock.elapsed() / 1000.0);
             return true;
