@@ -10,7 +10,7 @@ QImage Scene::Picture(const QString& name, const QString& type) {
     const QString file = QString(name).replace(QLatin1Char(' '), QLatin1Char('_')) + QLatin1Char('.') + type;
     auto it = cache.find(file);
     if (it == cache.end()) {
-        QImage image(Folder() + QLatin1Char('/') + file);
+        QImage image(folder + QLatin1Char('/') + file);
         it = cache.insert(file, image.isNull() ? image
                                                : image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
     }

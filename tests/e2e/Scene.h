@@ -10,8 +10,7 @@
 class Scene {
 public:
     // The rendered pictures of the build (files named as on disk, spaces as underscores).
-    static void SetPictureFolder(const QString& folder) { Folder() = folder; }
-    static QString PictureFolder() { return Folder(); }
+    static inline QString folder;
     // A picture by its resource name; null when it was not rendered.
     static QImage Picture(const QString& name, const QString& type = QStringLiteral("png"));
 
@@ -29,11 +28,6 @@ public:
     static double Difference(const QImage& a, const QImage& b, const QRect& region);
 
 private:
-    static QString& Folder() {
-        static QString folder;
-        return folder;
-    }
-
     QImage m_image{1024, 768, QImage::Format_RGB32};
     bool m_valid = true;
 };
