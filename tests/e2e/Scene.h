@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
 #include <QPoint>
 #include <QRect>
 #include <QString>
@@ -31,3 +32,25 @@ private:
     QImage m_image{1024, 768, QImage::Format_RGB32};
     bool m_valid = true;
 };
+
+// A region of the window must show the expected scene rather than the other one.
+struct Look {
+    QString what;
+    QRect region;
+    Scene expected;
+    Scene other;
+    // Empty when the shot shows the look, else what is wrong.
+    QString judge(const QImage& shot) const;
+};
+
+// A button at `frame` showing `shown` rather than `instead` (null: its frame bare), compared over
+// `part` of the frame.
+struct Button {
+    QRect frame;
+    const char* shown;
+    const char* instead;
+    QRect part;
+};
+
+// The looks of buttons on a background.
+QList<Look> Buttons(const char* background, const QList<Button>& buttons);

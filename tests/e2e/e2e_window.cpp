@@ -18,7 +18,7 @@ namespace {
 
 // Frames of the layout tables in window coordinates, the origins of their sub-views added.
 namespace At {
-constexpr QPoint Park(400, 60), RobotAtRest(0, 263), Timeline(552, 320);
+constexpr QPoint Park(400, 60), RobotAtRest(0, 263);
 // A caption's place: the caption rectangle's origin (90, 53) plus the line padding.
 constexpr QRect Program(607, 172, 250, 93), Alarm(607, 297, 250, 93), ProgramCaption(700, 222, 150, 24);
 constexpr QRect CreateScenario(95, 350, 326, 46), NameField(551, 374, 193, 20),
@@ -32,13 +32,8 @@ constexpr QRect LaserPicture(540, 326, 380, 340), DatePicker(552, 339, 195, 50),
 constexpr QRect BirthdayOn(124, 340, 111, 46), BirthdayOff(235, 340, 111, 46), EditorSet(791, 362, 111, 46);
 constexpr QRect BirthDate(205, 417, 180, 46), AlarmDone(839, 711, 85, 40);
 // The first row of sound buttons, and the timeline's first three places.
-constexpr int kSoundX[] = {100, 221, 340}, kSlotX[] = {12, 133, 253};
-QRect SoundButton(int i) {
-    return {kSoundX[i], 338, 111, 46};
-}
-QRect TimelineSlot(int i) {
-    return {Timeline.x() + kSlotX[i], Timeline.y() + 9, 111, 46};
-}
+constexpr QRect SoundButtons[] = {{100, 338, 111, 46}, {221, 338, 111, 46}, {340, 338, 111, 46}};
+constexpr QRect TimelineSlots[] = {{564, 329, 111, 46}, {685, 329, 111, 46}, {805, 329, 111, 46}};
 } // namespace At
 
 // Part of a frame: x and y from its left and top, w wide and h high (clear of the captions).
@@ -49,33 +44,6 @@ QRect Part(const QRect& frame, int x, int y, int w, int h) {
 // The band of an item or sound button below its caption, and the part of a menu button clear of it.
 constexpr QRect kBelowCaption(14, 32, 97, 14), kMenuPart(0, 0, 250, 48);
 const QRect kDateCaption = Part(At::BirthDate, 8, 8, 110, 30);
-
-// A region must show the expected scene rather than the other one.
-struct Look {
-    QString what;
-    QRect region;
-    Scene expected;
-    Scene other;
-};
-
-// Empty when the shot shows the look, else what is wrong.
-QString Judge(const QImage& shot, const Look& look) {
-    // The largest mean difference a region may have from its expected scene, and the least two
-    // scenes must differ by for a region to tell them apart.
-    constexpr double kTolerance = 3.0, kMinSeparation = 8.0;
-    if (!look.expected.isValid() || !look.other.isValid())
-        return look.what + ": a picture of the check is missing in " + Scene::folder;
-    const double separation = Scene::Difference(look.expected.image(), look.other.image(), look.region);
-    if (separation < kMinSeparation)
-        return look.what +
-               QStringLiteral(": the region cannot tell the two looks apart (%1)").arg(separation);
-    const double d = Scene::Difference(shot, look.expected.image(), look.region);
-    const double dOther = Scene::Difference(shot, look.other.image(), look.region);
-    if (d <= kTolerance && d * 3 < dOther) return {};
-    return look.what + QStringLiteral(": differs by %1 from what it should show, by %2 from the other look")
-                           .arg(d, 0, 'f', 1)
-                           .arg(dOther, 0, 'f', 1);
-}
 
 // Pixels of a region the test counts as ink.
 int Ink(const QImage& shot, const QRect& region, bool (*isInk)(const QColor&)) {
@@ -91,31 +59,6 @@ const char* const kEditor = "scenario_bg";
 const char* const kMark = "but_disabled_Btn01_1";
 const char* const kBtn1 = "but_normal_Btn01";
 const char* const kBtn1Chosen = "but_selected_Btn01";
-
-// A background with a button's picture on it; a null picture leaves its frame bare.
-Scene With(const char* background, const char* picture, const QRect& frame) {
-    Scene scene{QString::fromLatin1(background)};
-    if (picture) scene.button(QString::fromLatin1(picture), frame);
-    return scene;
-}
-
-// A button at `frame` showing `shown` rather than `instead`, compared over `part` of the frame.
-struct Button {
-    QRect frame;
-    const char* shown;
-    const char* instead;
-    QRect part;
-};
-
-QList<Look> Buttons(const char* background, const QList<Button>& buttons) {
-    QList<Look> looks;
-    for (const auto& [frame, shown, instead, part] : buttons)
-        looks << Look{
-            QStringLiteral("%1 at (%2, %3)").arg(QLatin1String(shown)).arg(frame.x()).arg(frame.y()),
-            part.translated(frame.topLeft()), With(background, shown, frame),
-            With(background, instead, frame)};
-    return looks;
-}
 
 const Button kStatus{At::Status, "but_normal_Btn03", nullptr, {210, 0, 116, 46}};
 const Button kDateButton{At::BirthDate, "but_normal_Btn02", nullptr, {120, 0, 60, 46}};
@@ -161,7 +104,7 @@ class TestEndToEnd : public QObject {
         do {
             last = shot();
             wrong = last.isNull() ? QStringList{"no screenshot"} : QStringList{};
-            for (const Look& look : looks) wrong << Judge(last, look);
+            for (const Look& look : looks) wrong << look.judge(last);
             if (also && !last.isNull()) wrong << also(last);
             wrong.removeAll(QString());
             if (wrong.isEmpty()) return true;
@@ -275,9 +218,9 @@ private slots:
         // Three sounds take the timeline's first three places; the last button pressed is marked.
         QList<Button> sounds;
         for (int i = 0; i < 3; ++i) {
-            QVERIFY(app.click(At::SoundButton(i).center()));
-            sounds << Button{At::TimelineSlot(i), kMark, nullptr, kBelowCaption}
-                   << Button{At::SoundButton(i), i == 2 ? kMark : kBtn1, i == 2 ? kBtn1 : kMark,
+            QVERIFY(app.click(At::SoundButtons[i].center()));
+            sounds << Button{At::TimelineSlots[i], kMark, nullptr, kBelowCaption}
+                   << Button{At::SoundButtons[i], i == 2 ? kMark : kBtn1, i == 2 ? kBtn1 : kMark,
                              kBelowCaption};
         }
         WAIT_FOR("three sounds", Buttons(kEditor, sounds));
@@ -307,7 +250,7 @@ private slots:
         // Done shows the confirmation page for a while, then the choose page.
         QVERIFY(app.click(At::AlarmDone.center()));
         const Scene confirmation = Scene(kCommon).picture("Pim_confirmation", {0, 0}, "jpg");
-        const Scene choosePage = With(kCommon, "but_normal_Btn03", At::Status);
+        const Scene choosePage = Scene(kCommon).button("but_normal_Btn03", At::Status);
         const QRect lowerHalf(0, 430, 1024, 270);
         WAIT_FOR("confirmation page", {{"confirmation picture", lowerHalf, confirmation, choosePage}},
                  [](const QImage& s) {
