@@ -70,7 +70,7 @@ bool AppWindow::startServer(QString* why) {
     bool ok = false;
     m_display = QStringLiteral(":%1").arg(number.trimmed().toInt(&ok));
     // The server answers as soon as it has said its number; make sure the tools can talk to it.
-    if (ok && xdotool({QStringLiteral("getmouselocation")})) return true;
+    if (ok && xdotool({"getmouselocation"})) return true;
     *why =
         QStringLiteral("Xvfb gave no usable display: %1 %2")
             .arg(m_server.errorString(), QString::fromLocal8Bit(m_server.readAllStandardError()).trimmed());
@@ -79,7 +79,7 @@ bool AppWindow::startServer(QString* why) {
 
 QProcessEnvironment AppWindow::environment() const {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("DISPLAY"), m_display);
+    env.insert("DISPLAY", m_display);
     return env;
 }
 
@@ -116,7 +116,7 @@ QStringList AppWindow::sideEffects() const {
     QStringList effects;
     while (!trace.atEnd())
         if (const QString effect = SideEffectOf(QString::fromLocal8Bit(trace.readLine()).trimmed(),
-                                                {m_scratch.filePath(QStringLiteral("runtime"))});
+                                                {m_scratch.filePath("runtime")});
             !effect.isEmpty() && !effects.contains(effect))
             effects << effect;
     return effects;
@@ -126,24 +126,20 @@ bool AppWindow::start(const QString& binary, QString* why) {
     if (!startServer(why)) return false;
     QProcessEnvironment env = environment();
     // The tests around may run offscreen; this one needs the real X window.
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    env.insert("QT_QPA_PLATFORM", "xcb");
     // A home and a runtime folder of its own: writing anywhere but the runtime folder is caught.
-    const QString home = m_scratch.filePath(QStringLiteral("home"));
-    const QString runtime = m_scratch.filePath(QStringLiteral("runtime"));
+    const QString home = m_scratch.filePath("home"), runtime = m_scratch.filePath("runtime");
     QDir().mkpath(home);
     QDir().mkpath(runtime);
     QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    env.insert(QStringLiteral("HOME"), home);
-    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
-    env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-               QStringLiteral("unix:path=%1/no-bus").arg(runtime));
-    const QString strace = QStandardPaths::findExecutable(QStringLiteral("strace"));
+    env.insert("HOME", home);
+    env.insert("XDG_RUNTIME_DIR", runtime);
+    env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + runtime + "/no-bus");
+    const QString strace = QStandardPaths::findExecutable("strace");
     // Whether strace can trace here (ptrace may be forbidden in containers).
     m_traced = !strace.isEmpty() && run(strace, QString("-f -o /dev/null true").split(' '));
     // The leak checker stops the process's threads with ptrace, which strace already holds.
-    if (m_traced)
-        env.insert(QStringLiteral("ASAN_OPTIONS"),
-                   env.value(QStringLiteral("ASAN_OPTIONS")) + QStringLiteral(":detect_leaks=0"));
+    if (m_traced) env.insert("ASAN_OPTIONS", env.value("ASAN_OPTIONS") + ":detect_leaks=0");
     m_process.setProcessEnvironment(env);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     if (m_traced)
@@ -165,7 +161,7 @@ bool AppWindow::start(const QString& binary, QString* why) {
         *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
         return false;
     }
-    if (xdotool({QStringLiteral("getwindowpid"), m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
+    if (xdotool({"getwindowpid", m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
     QImage window;
     for (int attempt = 0; attempt < 5 && (window = grab()).isNull(); ++attempt) QThread::msleep(200);
     if (window.size() != QSize(1024, 768)) {

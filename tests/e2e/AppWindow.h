@@ -12,10 +12,7 @@
 // coordinates and looked at through screenshots (ImageMagick's import).
 class AppWindow {
 public:
-    AppWindow() = default;
     ~AppWindow();
-    AppWindow(const AppWindow&) = delete;
-    AppWindow& operator=(const AppWindow&) = delete;
 
     // Starts the server, then the binary under strace where it can trace, with a home and
     // runtime folder of its own, and waits for its window to be mapped; on failure says why.

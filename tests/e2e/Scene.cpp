@@ -50,6 +50,13 @@ double Scene::Difference(const QImage& a, const QImage& b, const QRect& region) 
     return static_cast<double>(sum) / (3.0 * region.width() * region.height());
 }
 
+int Scene::Ink(const QImage& shot, const QRect& region, bool (*isInk)(const QColor&)) {
+    int n = 0;
+    for (int y = region.top(); y <= region.bottom(); ++y)
+        for (int x = region.left(); x <= region.right(); ++x) n += isInk(shot.pixelColor(x, y)) ? 1 : 0;
+    return n;
+}
+
 QString Look::judge(const QImage& shot) const {
     // The largest mean difference a region may have from its expected scene, and the least two
     // scenes must differ by for a region to tell them apart.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QList>
 #include <QPoint>
@@ -27,6 +28,8 @@ public:
     // Mean difference of the two images over a rectangle, 0 (same) to 255, over the three
     // colour channels; 255 when the rectangle is not inside both.
     static double Difference(const QImage& a, const QImage& b, const QRect& region);
+    // Pixels of a region the test counts as ink.
+    static int Ink(const QImage& shot, const QRect& region, bool (*isInk)(const QColor&));
 
 private:
     QImage m_image{1024, 768, QImage::Format_RGB32};

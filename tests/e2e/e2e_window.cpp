@@ -45,14 +45,6 @@ QRect Part(const QRect& frame, int x, int y, int w, int h) {
 constexpr QRect kBelowCaption(14, 32, 97, 14), kMenuPart(0, 0, 250, 48);
 const QRect kDateCaption = Part(At::BirthDate, 8, 8, 110, 30);
 
-// Pixels of a region the test counts as ink.
-int Ink(const QImage& shot, const QRect& region, bool (*isInk)(const QColor&)) {
-    int n = 0;
-    for (int y = region.top(); y <= region.bottom(); ++y)
-        for (int x = region.left(); x <= region.right(); ++x) n += isInk(shot.pixelColor(x, y)) ? 1 : 0;
-    return n;
-}
-
 const char* const kMenu = "mainpage_bg";
 const char* const kCommon = "common_bg";
 const char* const kEditor = "scenario_bg";
@@ -196,10 +188,10 @@ private slots:
         WAIT_FOR("program pointed at",
                  Buttons(kMenu, {{At::Program, "command_focused_menus", "command_normal_menus", kMenuPart}}),
                  [](const QImage& s) {
-                     return Ink(s, At::ProgramCaption,
-                                [](const QColor& c) {
-                                    return qMin(qMin(c.red(), c.green()), c.blue()) > 210;
-                                }) < 20
+                     return Scene::Ink(s, At::ProgramCaption,
+                                       [](const QColor& c) {
+                                           return qMin(qMin(c.red(), c.green()), c.blue()) > 210;
+                                       }) < 20
                                 ? QStringLiteral("caption not white")
                                 : QString();
                  });
@@ -256,8 +248,8 @@ private slots:
                  [](const QImage& s) {
                      // The message's second line ends in "I'll", its last letter near the bubble's
                      // edge: thin strokes on navy, where any clearly orange pixel is ink.
-                     return Ink(s, QRect(438, 310, 9, 18),
-                                [](const QColor& c) { return c.red() > 120 && c.blue() < 100; }) < 6
+                     return Scene::Ink(s, QRect(438, 310, 9, 18),
+                                       [](const QColor& c) { return c.red() > 120 && c.blue() < 100; }) < 6
                                 ? QStringLiteral("the message's \"I'll\" is cut")
                                 : QString();
                  });
