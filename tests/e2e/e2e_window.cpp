@@ -188,10 +188,10 @@ private slots:
         WAIT_FOR("program pointed at",
                  Buttons(kMenu, {{At::Program, "command_focused_menus", "command_normal_menus", kMenuPart}}),
                  [](const QImage& s) {
-                     return Scene::Ink(s, At::ProgramCaption,
-                                       [](const QColor& c) {
-                                           return qMin(qMin(c.red(), c.green()), c.blue()) > 210;
-                                       }) < 20
+                     const auto white = [](const QColor& c) {
+                         return qMin(qMin(c.red(), c.green()), c.blue()) > 210;
+                     };
+                     return Scene::Ink(s, At::ProgramCaption, white) < 20
                                 ? QStringLiteral("caption not white")
                                 : QString();
                  });
