@@ -20,12 +20,13 @@ QString SideEffectOf(const QString& line, const QStringList& allowed) {
     static const QRegularExpression network(QStringLiteral("^(AF_INET6?|AF_PACKET)\\b"));
     static const QRegularExpression writing(
         QStringLiteral("\\b(O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_APPEND)\\b"));
-    static const QStringList opening = QStringLiteral("open openat openat2 creat").split(QLatin1Char(' '));
+    static const QStringList opening = QString("open openat openat2 creat").split(' ');
     static const QStringList changing =
-        QStringLiteral("mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 link linkat symlink "
-                       "symlinkat truncate chmod fchmodat chown lchown fchownat utime utimes utimensat mknod "
-                       "mknodat setxattr lsetxattr removexattr lremovexattr")
-            .split(QLatin1Char(' '));
+        QString("mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 "
+                "link linkat symlink symlinkat truncate chmod fchmodat chown "
+                "lchown fchownat utime utimes utimensat mknod mknodat setxattr "
+                "lsetxattr removexattr lremovexattr")
+            .split(' ');
     const auto m = call.match(line);
     if (!m.hasMatch()) return {};
     const QString name = m.captured(1), args = m.captured(2);
@@ -61,9 +62,7 @@ AppWindow::~AppWindow() {
 bool AppWindow::startServer(QString* why) {
     // -displayfd: the server takes the first free display and writes its number to our pipe.
     // -noreset: else the server resets whenever its last client leaves, and turns away the next.
-    m_server.start(
-        QStringLiteral("Xvfb"),
-        QStringLiteral("-displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset").split(QLatin1Char(' ')));
+    m_server.start("Xvfb", QString("-displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset").split(' '));
     QByteArray number;
     for (const QDeadlineTimer deadline(30000);
          m_server.waitForStarted(10000) && !number.contains('\n') && !deadline.hasExpired();)
@@ -71,7 +70,7 @@ bool AppWindow::startServer(QString* why) {
     bool ok = false;
     m_display = QStringLiteral(":%1").arg(number.trimmed().toInt(&ok));
     // The server answers as soon as it has said its number; make sure the tools can talk to it.
-    if (ok && xdotool({QStringLiteral("getmouselocation")})) return true;
+    if (ok && xdotool({"getmouselocation"})) return true;
     *why =
         QStringLiteral("Xvfb gave no usable display: %1 %2")
             .arg(m_server.errorString(), QString::fromLocal8Bit(m_server.readAllStandardError()).trimmed());
@@ -80,7 +79,7 @@ bool AppWindow::startServer(QString* why) {
 
 QProcessEnvironment AppWindow::environment() const {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("DISPLAY"), m_display);
+    env.insert("DISPLAY", m_display);
     return env;
 }
 
@@ -117,7 +116,7 @@ QStringList AppWindow::sideEffects() const {
     QStringList effects;
     while (!trace.atEnd())
         if (const QString effect = SideEffectOf(QString::fromLocal8Bit(trace.readLine()).trimmed(),
-                                                {m_scratch.filePath(QStringLiteral("runtime"))});
+                                                {m_scratch.filePath("runtime")});
             !effect.isEmpty() && !effects.contains(effect))
             effects << effect;
     return effects;
@@ -127,31 +126,24 @@ bool AppWindow::start(const QString& binary, QString* why) {
     if (!startServer(why)) return false;
     QProcessEnvironment env = environment();
     // The tests around may run offscreen; this one needs the real X window.
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    env.insert("QT_QPA_PLATFORM", "xcb");
     // A home and a runtime folder of its own: writing anywhere but the runtime folder is caught.
-    const QString home = m_scratch.filePath(QStringLiteral("home"));
-    const QString runtime = m_scratch.filePath(QStringLiteral("runtime"));
+    const QString home = m_scratch.filePath("home"), runtime = m_scratch.filePath("runtime");
     QDir().mkpath(home);
     QDir().mkpath(runtime);
     QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    env.insert(QStringLiteral("HOME"), home);
-    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
-    env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-               QStringLiteral("unix:path=%1/no-bus").arg(runtime));
-    const QString strace = QStandardPaths::findExecutable(QStringLiteral("strace"));
+    env.insert("HOME", home);
+    env.insert("XDG_RUNTIME_DIR", runtime);
+    env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + runtime + "/no-bus");
+    const QString strace = QStandardPaths::findExecutable("strace");
     // Whether strace can trace here (ptrace may be forbidden in containers).
-    m_traced =
-        !strace.isEmpty() && run(strace, QStringLiteral("-f -o /dev/null true").split(QLatin1Char(' ')));
+    m_traced = !strace.isEmpty() && run(strace, QString("-f -o /dev/null true").split(' '));
     // The leak checker stops the process's threads with ptrace, which strace already holds.
-    if (m_traced)
-        env.insert(QStringLiteral("ASAN_OPTIONS"),
-                   env.value(QStringLiteral("ASAN_OPTIONS")) + QStringLiteral(":detect_leaks=0"));
+    if (m_traced) env.insert("ASAN_OPTIONS", env.value("ASAN_OPTIONS") + ":detect_leaks=0");
     m_process.setProcessEnvironment(env);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     if (m_traced)
-        m_process.start(strace,
-                        {QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-o"), tracePath(),
-                         QStringLiteral("-e"), QStringLiteral("trace=%file,%network"), binary});
+        m_process.start(strace, {"-f", "-qq", "-o", tracePath(), "-e", "trace=%file,%network", binary});
     else
         m_process.start(binary, {});
     if (!m_process.waitForStarted(20000)) {
@@ -163,14 +155,13 @@ bool AppWindow::start(const QString& binary, QString* why) {
     QByteArray out;
     for (const QDeadlineTimer deadline(90000); m_windowId.isEmpty() && !deadline.hasExpired() && isRunning();
          QThread::msleep(200))
-        if (xdotool(QStringLiteral("search --onlyvisible --name ^Robot.Companion$").split(QLatin1Char(' ')),
-                    &out))
+        if (xdotool(QString("search --onlyvisible --name ^Robot.Companion$").split(' '), &out))
             m_windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
     if (m_windowId.isEmpty()) {
         *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
         return false;
     }
-    if (xdotool({QStringLiteral("getwindowpid"), m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
+    if (xdotool({"getwindowpid", m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
     QImage window;
     for (int attempt = 0; attempt < 5 && (window = grab()).isNull(); ++attempt) QThread::msleep(200);
     if (window.size() != QSize(1024, 768)) {
@@ -184,17 +175,14 @@ bool AppWindow::moveTo(QPoint pos) {
     // A move to where the pointer already is would be no move at all.
     if (pos == m_pointer) return true;
     m_pointer = pos;
-    return xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), m_windowId,
-                    QString::number(pos.x()), QString::number(pos.y())});
+    return xdotool({"mousemove", "--window", m_windowId, QString::number(pos.x()), QString::number(pos.y())});
 }
 
 QImage AppWindow::grab() const {
     QByteArray png;
-    if (!run(QStringLiteral("import"),
-             {QStringLiteral("-silent"), QStringLiteral("-window"), m_windowId, QStringLiteral("png:-")},
-             &png))
-        return {};
-    return QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32);
+    return !run("import", {"-silent", "-window", m_windowId, "png:-"}, &png)
+               ? QImage()
+               : QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32);
 }
 
 QString AppWindow::errorOutput() {

@@ -12,10 +12,7 @@
 // coordinates and looked at through screenshots (ImageMagick's import).
 class AppWindow {
 public:
-    AppWindow() = default;
     ~AppWindow();
-    AppWindow(const AppWindow&) = delete;
-    AppWindow& operator=(const AppWindow&) = delete;
 
     // Starts the server, then the binary under strace where it can trace, with a home and
     // runtime folder of its own, and waits for its window to be mapped; on failure says why.
@@ -29,11 +26,9 @@ public:
 
     // Input at window coordinates.
     bool moveTo(QPoint pos);
-    bool click(QPoint pos) { return moveTo(pos) && xdotool({QStringLiteral("click"), QStringLiteral("1")}); }
-    bool type(const QString& text) {
-        return xdotool(QStringLiteral("type --delay 80 --").split(QLatin1Char(' ')) << text);
-    }
-    bool key(const QString& keyName) { return xdotool({QStringLiteral("key"), keyName}); }
+    bool click(QPoint pos) { return moveTo(pos) && xdotool({"click", "1"}); }
+    bool type(const QString& text) { return xdotool({"type", "--delay", "80", "--", text}); }
+    bool key(const QString& keyName) { return xdotool({"key", keyName}); }
 
     // A screenshot of the window; null when it failed.
     QImage grab() const;
@@ -46,7 +41,7 @@ private:
     // Runs an X tool to its end; false when it cannot start, times out or fails.
     bool run(const QString& program, const QStringList& args, QByteArray* output = nullptr) const;
     bool xdotool(const QStringList& args, QByteArray* output = nullptr) const {
-        return run(QStringLiteral("xdotool"), args, output);
+        return run("xdotool", args, output);
     }
     QString tracePath() const { return m_scratch.filePath(QStringLiteral("trace.txt")); }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QColor>
 #include <QImage>
+#include <QList>
 #include <QPoint>
 #include <QRect>
 #include <QString>
@@ -10,8 +12,7 @@
 class Scene {
 public:
     // The rendered pictures of the build (files named as on disk, spaces as underscores).
-    static void SetPictureFolder(const QString& folder) { Folder() = folder; }
-    static QString PictureFolder() { return Folder(); }
+    static inline QString folder;
     // A picture by its resource name; null when it was not rendered.
     static QImage Picture(const QString& name, const QString& type = QStringLiteral("png"));
 
@@ -27,13 +28,32 @@ public:
     // Mean difference of the two images over a rectangle, 0 (same) to 255, over the three
     // colour channels; 255 when the rectangle is not inside both.
     static double Difference(const QImage& a, const QImage& b, const QRect& region);
+    // Pixels of a region the test counts as ink.
+    static int Ink(const QImage& shot, const QRect& region, bool (*isInk)(const QColor&));
 
 private:
-    static QString& Folder() {
-        static QString folder;
-        return folder;
-    }
-
     QImage m_image{1024, 768, QImage::Format_RGB32};
     bool m_valid = true;
 };
+
+// A region of the window must show the expected scene rather than the other one.
+struct Look {
+    QString what;
+    QRect region;
+    Scene expected;
+    Scene other;
+    // Empty when the shot shows the look, else what is wrong.
+    QString judge(const QImage& shot) const;
+};
+
+// A button at `frame` showing `shown` rather than `instead` (null: its frame bare), compared over
+// `part` of the frame.
+struct Button {
+    QRect frame;
+    const char* shown;
+    const char* instead;
+    QRect part;
+};
+
+// The looks of buttons on a background.
+QList<Look> Buttons(const char* background, const QList<Button>& buttons);
