@@ -5,18 +5,16 @@
 
 namespace {
 
-// The seven rows as a screen keeps them, changed only as the list's answers say.
+// The seven rows as a screen keeps them, changed only as the list's answers say; `run` takes
+// "D*6 U 3 X*2": Down six times, Up, choose row 3, remove twice.
 struct Rows {
+    ScenarioList& list;
     QString caption[ScenarioList::kRows];
-    bool bar[ScenarioList::kRows] = {true};
-    bool hidden[ScenarioList::kRows] = {};
-    bool listShown = true;
+    bool bar[ScenarioList::kRows] = {true}, hidden[ScenarioList::kRows] = {}, listShown = true;
 
-    explicit Rows(const ScenarioList& list) {
-        for (int r = 0; r < ScenarioList::kRows; ++r) caption[r] = list.name(r);
-    }
+    explicit Rows(ScenarioList& l) : list(l) { apply({.captionTo = ScenarioList::kRows}); }
 
-    void apply(const ScenarioList::RowChange& change, const ScenarioList& list) {
+    void apply(const ScenarioList::RowChange& change) {
         listShown = listShown && !change.listEmptied;
         if (change.hideRow >= 0) hidden[change.hideRow] = true;
         if (change.markRow >= 0)
@@ -25,28 +23,22 @@ struct Rows {
             caption[r] = list.name(list.firstShown() + r);
     }
 
+    void run(const QString& steps) {
+        for (const QString& token : steps.split(' '))
+            for (int i = qMax(1, token.section('*', 1).toInt()); i > 0; --i)
+                apply(token[0] == 'U'   ? list.Up()
+                      : token[0] == 'D' ? list.Down()
+                      : token[0] == 'X' ? list.Remove()
+                                        : list.ChooseRow(token[0].digitValue()));
+    }
+
     QString shown() const {
         QStringList names;
         for (int r = 0; r < ScenarioList::kRows; ++r)
-            if (!hidden[r]) names << (bar[r] ? QLatin1Char('[') + caption[r] + QLatin1Char(']') : caption[r]);
-        return names.join(QLatin1Char(' '));
+            if (!hidden[r]) names << (bar[r] ? '[' + caption[r] + ']' : caption[r]);
+        return names.join(' ');
     }
 };
-
-// "D*6 U 3 X*2": Down six times, Up, choose row 3, remove twice.
-void Run(ScenarioList& list, Rows& rows, const QString& steps) {
-    for (const QString& token : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        const QStringList parts = token.split(QLatin1Char('*'));
-        for (int i = parts.size() > 1 ? parts[1].toInt() : 1; i > 0; --i) {
-            const QChar op = parts[0].at(0);
-            rows.apply(op == QLatin1Char('U')   ? list.Up()
-                       : op == QLatin1Char('D') ? list.Down()
-                       : op == QLatin1Char('X') ? list.Remove()
-                                                : list.ChooseRow(op.digitValue()),
-                       list);
-        }
-    }
-}
 
 } // namespace
 
@@ -84,7 +76,7 @@ private slots:
         ScenarioList list;
         list.Fill();
         Rows shown(list);
-        Run(list, shown, steps);
+        shown.run(steps);
         QCOMPARE(shown.shown(), rows);
         QCOMPARE(list.indexChoose, indexChoose);
         QCOMPARE(list.numOfList, numOfList);
@@ -102,7 +94,7 @@ private slots:
             Rows rows(list);
             while (list.canModify()) {
                 const QString ops[] = {"U", "D", "X", QString::number(random.bounded(list.shownRows()))};
-                Run(list, rows, ops[random.bounded(4)]);
+                rows.run(ops[random.bounded(4)]);
                 if (!list.canModify()) break;
                 QVERIFY2(list.isConsistent(), qPrintable(QString("seed %1").arg(seed)));
                 QCOMPARE(rows.bar[list.indexShow], true);
@@ -113,17 +105,6 @@ private slots:
             // An empty list ignores everything.
             QVERIFY(list.Up().isNothing() && list.Down().isNothing() && list.Remove().isNothing());
         }
-    }
-
-    // Leaving closes the open view.
-    void pages() {
-        ScenarioList list;
-        list.CreateAction();
-        QCOMPARE(list.page, ScenarioList::Page::Create);
-        list.ModifyAction();
-        QCOMPARE(list.page, ScenarioList::Page::List);
-        list.Leave();
-        QCOMPARE(list.page, ScenarioList::Page::Choice);
     }
 
     // "Create" takes any name of at least one character, listed already or not.

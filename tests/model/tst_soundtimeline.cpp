@@ -11,71 +11,35 @@ void Fill(SoundTimeline& t, qint32 items) {
     for (qint32 i = 0; i < items; ++i) t.SetSoundContent(i % 36);
 }
 
-enum class Side { LeadIn, Left, Right, Above };
-
-constexpr qint32 kFirst = SoundSetBoard::kSoundButtonFirst;
-
 } // namespace
 
 // The timeline's numbers, and the twelve sound buttons that feed it.
 class TestSoundTimeline : public QObject {
     Q_OBJECT
 private slots:
-    void append_data() {
-        QTest::addColumn<qint32>("before");
-        QTest::addColumn<qint32>("sound");
-        QTest::addColumn<bool>("appended");
-        QTest::newRow("the 512th item") << 511 << 35 << true;
-        QTest::newRow("a full timeline takes no more") << 512 << 0 << false;
-        QTest::newRow("no sound past the table") << 3 << 36 << false;
-        QTest::newRow("no sound before it") << 3 << -1 << false;
-    }
-    void append() {
-        QFETCH(qint32, before);
-        QFETCH(qint32, sound);
-        QFETCH(bool, appended);
-        SoundTimeline t;
-        Fill(t, before);
-        QSignalSpy made(&t, &SoundTimeline::ItemAppended);
-        t.SetSoundContent(sound);
-        QCOMPARE(t.iItemNum, before + (appended ? 1 : 0));
-        const QList<QList<QVariant>> told =
-            appended ? QList<QList<QVariant>>{{before, sound}} : QList<QList<QVariant>>{};
-        QCOMPARE(made, told);
-    }
-
-    // Each item follows the one before it in a snake: along a row, then down into the next row,
-    // which runs back the other way; a bar joins it to that item.
-    void snake_data() {
-        QTest::addColumn<qint32>("n");
-        QTest::addColumn<Side>("side");
-        QTest::newRow("the first item leads in from the left edge") << 0 << Side::LeadIn;
-        QTest::newRow("along the first row") << 1 << Side::Left;
-        QTest::newRow("down at the right end") << 3 << Side::Above;
-        QTest::newRow("back along the second row") << 4 << Side::Right;
-        QTest::newRow("down at the left end") << 6 << Side::Above;
-        QTest::newRow("on to the next page") << 12 << Side::Above;
-    }
+    // Items run in a snake of rows of three, each row back the other way from the one above;
+    // a bar joins each item to the one before it, the first to the left edge.
     void snake() {
-        QFETCH(qint32, n);
-        QFETCH(Side, side);
-        const SoundContentLoc loc = GetSoundContentLoc(n, 0);
-        const QRectF item = loc.SizeLoc.toRectF();
-        // A bar may end where its item begins.
-        const QRectF bar = loc.LinkBar.toRectF().adjusted(-0.5, -0.5, 0.5, 0.5);
-        QCOMPARE(loc.LinkBarType, side == Side::Above ? kLinkBarVertical : kLinkBarHorizontal);
-        QVERIFY(bar.intersects(item));
-        if (side == Side::LeadIn) {
-            QCOMPARE(loc.LinkBar.x, 0.0f);
-            return;
+        for (qint32 n = 0; n <= 12; ++n) {
+            const SoundContentLoc loc = GetSoundContentLoc(n, 0);
+            const QRectF item = loc.SizeLoc.toRectF();
+            // A bar may end where its item begins.
+            const QRectF bar = loc.LinkBar.toRectF().adjusted(-0.5, -0.5, 0.5, 0.5);
+            const bool down = n > 0 && n % 3 == 0;
+            QCOMPARE(loc.LinkBarType, down ? kLinkBarVertical : kLinkBarHorizontal);
+            QVERIFY(bar.intersects(item));
+            if (n == 0) {
+                QCOMPARE(loc.LinkBar.x, 0.0f);
+                continue;
+            }
+            const QRectF before = GetSoundContentLoc(n - 1, 0).SizeLoc.toRectF();
+            QVERIFY(bar.intersects(before));
+            if (down)
+                QVERIFY(before.left() == item.left() && before.bottom() < item.top());
+            else
+                QVERIFY(before.top() == item.top() &&
+                        (n / 3 % 2 ? before.left() > item.right() : before.right() < item.left()));
         }
-        const QRectF before = GetSoundContentLoc(n - 1, 0).SizeLoc.toRectF();
-        QVERIFY(bar.intersects(before));
-        if (side == Side::Above)
-            QVERIFY(before.left() == item.left() && before.bottom() < item.top());
-        else
-            QVERIFY(before.top() == item.top() &&
-                    (side == Side::Left ? before.right() < item.left() : before.left() > item.right()));
     }
 
     // A page further on view moves every item one page pitch up, whatever its page.
@@ -97,31 +61,27 @@ private slots:
         QTest::addColumn<qint32>("from");
         QTest::addColumn<qint32>("to");
         QTest::addColumn<qint32>("ticks"); // 0: refused
-        QTest::addColumn<qint32>("pageMax");
-        QTest::newRow("one page on") << 24 << 0 << 1 << 12 << 1;
-        QTest::newRow("past the last item's page") << 24 << 1 << 2 << 0 << 1;
-        QTest::newRow("several pages at once") << 37 << 0 << 3 << 33 << 3;
-        QTest::newRow("one page back") << 24 << 1 << 0 << 11 << 0;
-        QTest::newRow("before the first page") << 24 << 0 << -1 << 0 << 0;
-        QTest::newRow("the page on view") << 24 << 1 << 1 << 0 << 0;
-        QTest::newRow("on with no items") << 0 << 0 << 1 << 0 << 0;
-        QTest::newRow("the whole timeline back") << 512 << 42 << 0 << 456 << 0;
+        QTest::newRow("one page on") << 24 << 0 << 1 << 12;
+        QTest::newRow("past the last item's page") << 24 << 1 << 2 << 0;
+        QTest::newRow("several pages at once") << 37 << 0 << 3 << 33;
+        QTest::newRow("one page back") << 24 << 1 << 0 << 11;
+        QTest::newRow("before the first page") << 24 << 0 << -1 << 0;
+        QTest::newRow("the page on view") << 24 << 1 << 1 << 0;
+        QTest::newRow("on with no items") << 0 << 0 << 1 << 0;
+        QTest::newRow("the whole timeline back") << 512 << 42 << 0 << 456;
     }
     void scroll() {
         QFETCH(qint32, items);
         QFETCH(qint32, from);
         QFETCH(qint32, to);
         QFETCH(qint32, ticks);
-        QFETCH(qint32, pageMax);
         SoundTimeline t;
         Fill(t, items);
         t.iPageNumber = from;
         QSignalSpy steps(&t, &SoundTimeline::ItemsScrolled);
         QSignalSpy arrived(&t, &SoundTimeline::ScrollArrived);
         t.SoundContentMoveToPage(to);
-        QCOMPARE(t.Busy(), ticks > 0);
         QCOMPARE(t.iPageNumber, ticks ? to : from);
-        QCOMPARE(t.iPageMax, pageMax);
         if (t.timer) t.timer->stop();
         for (int guard = 0; t.Busy() && guard < 1000; ++guard)
             to > from ? t.SoundContentItemDown() : t.SoundContentItemUP();
@@ -148,58 +108,58 @@ private slots:
         QVERIFY(board.PageNext());
         QCOMPARE(t.iItemNum, 36);
         QCOMPARE(t.iPageNumber, 1);
-        QCOMPARE(board.iCurSoundSet, kFirst);
+        QCOMPARE(board.iCurSoundSet, SoundSetBoard::kSoundButtonFirst);
     }
 
-    // Pages run from 0 to 2; the last button on page p stands for sound 11 + 12 p.
-    void soundSetPages_data() {
-        QTest::addColumn<QString>("presses");
-        QTest::addColumn<qint32>("page");
-        QTest::newRow("past the last") << ">>>" << 2;
-        QTest::newRow("back before the first") << "<" << 0;
-        QTest::newRow("there and back") << ">><" << 1;
-    }
-    void soundSetPages() {
-        QFETCH(QString, presses);
-        QFETCH(qint32, page);
-        SoundTimeline t;
-        SoundSetBoard board(&t);
-        for (QChar press : presses) press == '>' ? board.PageNext() : board.PagePre();
-        QCOMPARE(board.iCurSoundSetPage, page);
-        QCOMPARE(board.SoundOf(SoundSetBoard::kSoundButtonLast), 11 + 12 * page);
-    }
-
-    // The mark goes to the button pressed last, whatever it names; the timeline scrolls to the
-    // page of its last item, full or not.
-    void mark_data() {
+    // A sound button appends its sound, the last button on sound set page p (0 to 2) standing
+    // for 11 + 12 p, to a timeline not yet full; the mark goes to the button pressed last,
+    // whatever it names; the timeline scrolls to the page of its last item.
+    void press_data() {
         QTest::addColumn<qint32>("items");
-        QTest::addColumn<QList<qint32>>("presses");
+        QTest::addColumn<QString>("presses"); // buttons, and > or < for the sound set pages
         QTest::addColumn<bool>("moved");
         QTest::addColumn<qint32>("marked");
-        QTest::addColumn<qint32>("itemsAfter");
+        QTest::addColumn<QList<qint32>>("appended");
         QTest::addColumn<qint32>("pageAfter");
-        QTest::newRow("another button") << 0 << QList<qint32>{10, 11} << true << 11 << 2 << 0;
-        QTest::newRow("the same button twice") << 0 << QList<qint32>{11, 11} << false << 11 << 2 << 0;
-        QTest::newRow("not a sound button") << 0 << QList<qint32>{22} << false << 10 << 0 << 0;
-        QTest::newRow("the thirteenth item") << 12 << QList<qint32>{21} << true << 21 << 13 << 1;
-        QTest::newRow("a full timeline") << 512 << QList<qint32>{12} << true << 12 << 512 << 42;
+        using L = QList<qint32>;
+        QTest::newRow("another button") << 0 << "10 11" << true << 11 << L{0, 1} << 0;
+        QTest::newRow("the same button twice") << 0 << "11 11" << false << 11 << L{1, 1} << 0;
+        QTest::newRow("not a sound button") << 0 << "22" << false << 10 << L{} << 0;
+        QTest::newRow("the thirteenth item") << 12 << "21" << true << 21 << L{11} << 1;
+        QTest::newRow("the 512th item") << 511 << "21" << true << 21 << L{11} << 42;
+        QTest::newRow("a full timeline") << 512 << "12" << true << 12 << L{} << 42;
+        QTest::newRow("past the last set page") << 0 << "> > > 21" << true << 21 << L{35} << 0;
+        QTest::newRow("before the first set page") << 0 << "< 21" << true << 21 << L{11} << 0;
+        QTest::newRow("set pages there and back") << 0 << "> > < 21" << true << 21 << L{23} << 0;
     }
-    void mark() {
+    void press() {
         QFETCH(qint32, items);
-        QFETCH(QList<qint32>, presses);
+        QFETCH(QString, presses);
         QFETCH(bool, moved);
         QFETCH(qint32, marked);
-        QFETCH(qint32, itemsAfter);
+        QFETCH(QList<qint32>, appended);
         QFETCH(qint32, pageAfter);
         SoundTimeline t;
         SoundSetBoard board(&t);
         Fill(t, items);
+        QSignalSpy made(&t, &SoundTimeline::ItemAppended);
         bool last = false;
-        for (qint32 button : presses) last = board.SoundSet(button);
+        for (const QString& p : presses.split(' '))
+            last = p == ">" ? board.PageNext() : p == "<" ? board.PagePre() : board.SoundSet(p.toInt());
         QCOMPARE(last, moved);
         QCOMPARE(board.iCurSoundSet, marked);
-        QCOMPARE(t.iItemNum, itemsAfter);
+        QList<QList<QVariant>> told;
+        for (qint32 sound : appended) told.append({items + qint32(told.size()), sound});
+        QCOMPARE(made, told);
+        QCOMPARE(t.iItemNum, items + appended.size());
         QCOMPARE(t.iPageNumber, pageAfter);
+    }
+
+    // Only the table's 36 sounds are taken.
+    void unknownSound() {
+        SoundTimeline t;
+        for (const qint32 sound : {-1, 36, 35}) t.SetSoundContent(sound);
+        QCOMPARE(t.iItemNum, 1);
     }
 
     // The one test on the clock: a page takes its twelve ticks of 10 ms.
