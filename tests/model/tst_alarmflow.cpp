@@ -35,16 +35,10 @@ QString Describe(const AlarmFlow& f) {
     QString page = QString::fromLatin1(pages[int(f.page())]);
     if (f.page() == AlarmFlow::Page::Confirmation)
         page += f.confirmation() == AlarmFlow::Alarm::Wakeup ? "(wake)" : "(bday)";
-    return QStringLiteral("%1%2 <%3 f%4 on%5%6 q%7 p%8%9%10")
-        .arg(page, QLatin1String(editors[int(f.editor())]),
-             f.backTarget() == AlarmFlow::Back::MainMenu ? "main" : "choose")
-        .arg(f.flagBirthdayWakeup())
-        .arg(f.enableBirthday())
-        .arg(f.enableWakeup())
-        .arg(f.typeFrequency())
-        .arg(int(f.birthdaySwitched()))
-        .arg(int(f.wakeupSwitched()))
-        .arg(f.timer()->isActive() ? " timer" : "");
+    return QString::asprintf("%s%s <%s f%d on%d%d q%d p%d%d%s", qPrintable(page), editors[int(f.editor())],
+                             f.backTarget() == AlarmFlow::Back::MainMenu ? "main" : "choose",
+                             f.flagBirthdayWakeup(), f.enableBirthday(), f.enableWakeup(), f.typeFrequency(),
+                             f.birthdaySwitched(), f.wakeupSwitched(), f.timer()->isActive() ? " timer" : "");
 }
 
 } // namespace

@@ -26,8 +26,9 @@ class TestMovementPath : public QObject {
     Q_OBJECT
 private slots:
     // The first piece stands in the bottom-left corner; a first stop or circle sends the path up.
-    // An unknown first command draws what the empty slot holds, image 0.
-    void firstPiece() {
+    // An unknown command draws image 0 first, what the empty slot holds, and adds nothing later;
+    // later, command 2 draws image 0.
+    void commands() {
         for (qint32 command = -1; command <= 9; ++command) {
             PATHMAINSTRUCT path;
             const auto piece = path.SetPath(command, kPathHeight);
@@ -37,18 +38,10 @@ private slots:
             QCOMPARE(piece->frame.y + piece->frame.height, kPathHeight);
             QCOMPARE(path.iDirect,
                      IsStopOrCircle(piece->iImgNO) ? kPathDirectUp : iPathDirectOutTable[piece->iImgNO]);
-            QCOMPARE(path.iItemCnt, 1);
+            QVERIFY(!path.SetPath(9, kPathHeight) && !path.SetPath(-1, kPathHeight));
+            QCOMPARE(path.SetPath(2, kPathHeight)->iImgNO, 0);
+            QCOMPARE(path.iItemCnt, 2);
         }
-    }
-
-    // Later, command 2 draws image 0, and an unknown command adds nothing.
-    void laterPieces() {
-        PATHMAINSTRUCT path;
-        QCOMPARE(path.SetPath(2, kPathHeight)->iImgNO, 2);
-        QCOMPARE(path.SetPath(2, kPathHeight)->iImgNO, 0);
-        QVERIFY(!path.SetPath(9, kPathHeight));
-        QVERIFY(!path.SetPath(-1, kPathHeight));
-        QCOMPARE(path.iItemCnt, 2);
     }
 
     // Every image after every image: against the side the newest piece leaves on, a line or
