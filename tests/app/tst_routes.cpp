@@ -10,39 +10,34 @@
 
 #include <QTest>
 
-#include <functional>
-#include <utility>
-
 namespace {
 
-using Control = std::function<QWidget*(Frame_Control*)>;
-
 // The controls the routes go through, by what the user sees.
-const QHash<QString, Control>& Controls() {
-    static const QHash<QString, Control> controls = {
-        {"Program scenario", [](Frame_Control* r) { return r->frmMainMenu->BtnProgram; }},
-        {"Alarm/Clock", [](Frame_Control* r) { return r->frmMainMenu->BtnAlarm; }},
-        {"Create a new scenario", [](Frame_Control* r) { return r->frmScenario->BtnCreate; }},
-        {"name field", [](Frame_Control* r) { return r->frmScenario->txtScenarioName; }},
-        {"Create", [](Frame_Control* r) { return r->frmScenario->BtnNewCreate; }},
-        {"Modify exist scenario", [](Frame_Control* r) { return r->frmScenario->BtnModify; }},
-        {"Go", [](Frame_Control* r) { return r->frmScenario->BtnGo; }},
-        {"scenario Back", [](Frame_Control* r) { return r->frmScenario->BtnBack; }},
-        {"movement sound tab", [](Frame_Control* r) { return r->frmMovement->BtnSound; }},
-        {"movement laser tab", [](Frame_Control* r) { return r->frmMovement->BtnLazer; }},
-        {"movement Back", [](Frame_Control* r) { return r->frmMovement->BtnBack; }},
-        {"sound movement tab",
-         [](Frame_Control* r) { return r->frmSound->BtnButton[Frame_Sound::kBtnMoveMent]; }},
-        {"sound laser tab", [](Frame_Control* r) { return r->frmSound->BtnButton[Frame_Sound::kBtnLazer]; }},
-        {"sound Back", [](Frame_Control* r) { return r->frmSound->BtnButton[Frame_Sound::kBtnBack]; }},
-        {"laser sound tab", [](Frame_Control* r) { return r->frmLazer->BtnSound; }},
-        {"laser movement tab", [](Frame_Control* r) { return r->frmLazer->BtnMoveMent; }},
-        {"laser face tab", [](Frame_Control* r) { return r->frmLazer->BtnFace; }},
-        {"laser play", [](Frame_Control* r) { return r->frmLazer->BtnPlay; }},
-        {"laser Back", [](Frame_Control* r) { return r->frmLazer->BtnBack; }},
-        {"alarm Back", [](Frame_Control* r) { return r->frmAlarm->BtnBack; }},
-    };
-    return controls;
+QHash<QString, QWidget*> Controls(Frame_Control* r) {
+    Frame_Scenario* s = r->frmScenario;
+    Frame_MoveMent* m = r->frmMovement;
+    Button* const* sound = r->frmSound->BtnButton;
+    Frame_Lazer* l = r->frmLazer;
+    return {{"Program scenario", r->frmMainMenu->BtnProgram},
+            {"Alarm/Clock", r->frmMainMenu->BtnAlarm},
+            {"Create a new scenario", s->BtnCreate},
+            {"name field", s->txtScenarioName},
+            {"Create", s->BtnNewCreate},
+            {"Modify exist scenario", s->BtnModify},
+            {"Go", s->BtnGo},
+            {"scenario Back", s->BtnBack},
+            {"movement sound tab", m->BtnSound},
+            {"movement laser tab", m->BtnLazer},
+            {"movement Back", m->BtnBack},
+            {"sound movement tab", sound[Frame_Sound::kBtnMoveMent]},
+            {"sound laser tab", sound[Frame_Sound::kBtnLazer]},
+            {"sound Back", sound[Frame_Sound::kBtnBack]},
+            {"laser sound tab", l->BtnSound},
+            {"laser movement tab", l->BtnMoveMent},
+            {"laser face tab", l->BtnFace},
+            {"laser play", l->BtnPlay},
+            {"laser Back", l->BtnBack},
+            {"alarm Back", r->frmAlarm->BtnBack}};
 }
 
 // The screens by name, each with the button whose hover tells whether it made its registrations:
@@ -58,13 +53,6 @@ std::pair<QWidget*, Button*> ScreenNamed(Frame_Control* r, const QString& name) 
     return screens.value(name);
 }
 
-const QStringList kToMovement{"Program scenario", "Create a new scenario", "name field", "type Robo",
-                              "Create"};
-
-QStringList Then(const QStringList& first, const QStringList& more) {
-    return first + more;
-}
-
 } // namespace
 
 // Every route between the screens, taken by real clicks in the window: the screen it ends on is
@@ -77,25 +65,29 @@ private slots:
         QTest::addColumn<QStringList>("steps");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<bool>("hoverAnswers");
-        const QStringList toSound = Then(kToMovement, {"movement sound tab"});
-        const QStringList toLaser = Then(kToMovement, {"movement laser tab"});
+        const QStringList toMovement{"Program scenario", "Create a new scenario", "name field", "type Robo",
+                                     "Create"};
+        const QStringList toSound = toMovement + QStringList{"movement sound tab"};
+        const QStringList toLaser = toMovement + QStringList{"movement laser tab"};
         QTest::newRow("menu, program") << QStringList{"Program scenario"} << "scenario" << false;
         QTest::newRow("scenario, back")
             << QStringList{"Program scenario", "scenario Back"} << "main menu" << true;
-        QTest::newRow("scenario, create") << kToMovement << "movement" << true;
+        QTest::newRow("scenario, create") << toMovement << "movement" << true;
         QTest::newRow("scenario, modify and go")
             << QStringList{"Program scenario", "Modify exist scenario", "Go"} << "movement" << true;
-        QTest::newRow("movement, back") << Then(kToMovement, {"movement Back"}) << "main menu" << true;
+        QTest::newRow("movement, back") << toMovement + QStringList{"movement Back"} << "main menu" << true;
         QTest::newRow("movement, sound tab") << toSound << "sound" << true;
         QTest::newRow("movement, laser tab") << toLaser << "laser" << true;
-        QTest::newRow("sound, movement tab") << Then(toSound, {"sound movement tab"}) << "movement" << true;
-        QTest::newRow("sound, back") << Then(toSound, {"sound Back"}) << "movement" << true;
-        QTest::newRow("sound, laser tab") << Then(toSound, {"sound laser tab"}) << "laser" << true;
-        QTest::newRow("laser, sound tab") << Then(toLaser, {"laser sound tab"}) << "sound" << true;
-        QTest::newRow("laser, back") << Then(toLaser, {"laser Back"}) << "sound" << true;
-        QTest::newRow("laser, movement tab") << Then(toLaser, {"laser movement tab"}) << "movement" << true;
-        QTest::newRow("laser, face tab") << Then(toLaser, {"laser face tab"}) << "movement" << true;
-        QTest::newRow("laser, play") << Then(toLaser, {"laser play"}) << "movement" << true;
+        QTest::newRow("sound, movement tab")
+            << toSound + QStringList{"sound movement tab"} << "movement" << true;
+        QTest::newRow("sound, back") << toSound + QStringList{"sound Back"} << "movement" << true;
+        QTest::newRow("sound, laser tab") << toSound + QStringList{"sound laser tab"} << "laser" << true;
+        QTest::newRow("laser, sound tab") << toLaser + QStringList{"laser sound tab"} << "sound" << true;
+        QTest::newRow("laser, back") << toLaser + QStringList{"laser Back"} << "sound" << true;
+        QTest::newRow("laser, movement tab")
+            << toLaser + QStringList{"laser movement tab"} << "movement" << true;
+        QTest::newRow("laser, face tab") << toLaser + QStringList{"laser face tab"} << "movement" << true;
+        QTest::newRow("laser, play") << toLaser + QStringList{"laser play"} << "movement" << true;
         QTest::newRow("menu, alarm") << QStringList{"Alarm/Clock"} << "alarm" << true;
         QTest::newRow("alarm, back") << QStringList{"Alarm/Clock", "alarm Back"} << "main menu" << true;
     }
@@ -106,21 +98,18 @@ private slots:
         QFETCH(bool, hoverAnswers);
         AppHarness app;
         QVERIFY(app.waitForMainMenuReady());
-        Frame_Control* root = app.root();
         for (const QString& step : steps) {
             if (step.startsWith(QLatin1String("type "))) {
                 for (const QChar c : step.mid(5)) QTest::keyClick(app.handle(), c.toLatin1());
                 continue;
             }
-            QWidget* control = Controls().value(step)(root);
+            QWidget* control = Controls(app.root()).value(step);
             QVERIFY2(control && control->isVisible(), qPrintable(step + QStringLiteral(" is not on view")));
             app.click(control);
         }
-        const auto [expected, probe] = ScreenNamed(root, shown);
+        const auto [expected, probe] = ScreenNamed(app.root(), shown);
         QCOMPARE(app.shownScreens(), std::vector<QWidget*>{expected});
-
-        // Hover: off the button, then onto it.
-        app.moveTo(QPoint(400, 20));
+        app.moveTo(QPoint(400, 20)); // off the button, then onto it
         app.moveTo(probe);
         QCOMPARE(probe->look() == Button::Look::Move, hoverAnswers);
     }

@@ -4,9 +4,8 @@
 #include "Frame_Control.h"
 #include "Frame_MainMenu.h"
 
-#include <QDateEdit>
+#include <QDateTimeEdit>
 #include <QTest>
-#include <QTimeEdit>
 #include <QTimeZone>
 
 #include <ctime>
@@ -80,32 +79,25 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("beyond"); // a key that tries to go past the end
         const QTime early(0, 10), late(23, 50);
-        for (const char* zone : kZones) {
-            const auto row = [zone](const char* what) {
-                return &QTest::newRow(
-                    qPrintable(QStringLiteral("%1, %2").arg(QLatin1String(zone), QLatin1String(what))));
-            };
-            for (const QTime start : {early, late}) {
-                const char* when = start == early ? "early" : "late";
-                const auto named = [&](const char* what) {
-                    return row(qPrintable(QStringLiteral("%1, started %2").arg(QLatin1String(what), when)));
-                };
-                *named("last date") << QByteArray(zone) << int(BirthDate) << start << "9999/12/31"
-                                    << int(Qt::Key_Up);
-                *named("first date") << QByteArray(zone) << int(BirthDate) << start << "1752/09/14"
-                                     << int(Qt::Key_Down);
-            }
-            *row("a day some zone skipped")
-                << QByteArray(zone) << int(BirthDate) << late << "2011/12/30" << int(Qt::Key_Left);
-            *row("birthday 23:59") << QByteArray(zone) << int(BirthTime) << early << "23/59"
-                                   << int(Qt::Key_Up);
-            *row("birthday 00:00") << QByteArray(zone) << int(BirthTime) << late << "00/00"
-                                   << int(Qt::Key_Down);
-            *row("wake-up 23:59") << QByteArray(zone) << int(WakeupTime) << early << "23/59"
-                                  << int(Qt::Key_PageUp);
-            *row("wake-up 00:00") << QByteArray(zone) << int(WakeupTime) << late << "00/00"
-                                  << int(Qt::Key_PageDown);
-        }
+        const struct {
+            const char* what;
+            Picker picker;
+            QTime startedAt;
+            const char* typed;
+            Qt::Key beyond;
+        } rows[] = {{"last date, started early", BirthDate, early, "9999/12/31", Qt::Key_Up},
+                    {"last date, started late", BirthDate, late, "9999/12/31", Qt::Key_Up},
+                    {"first date, started early", BirthDate, early, "1752/09/14", Qt::Key_Down},
+                    {"first date, started late", BirthDate, late, "1752/09/14", Qt::Key_Down},
+                    {"a day some zone skipped", BirthDate, late, "2011/12/30", Qt::Key_Left},
+                    {"birthday 23:59", BirthTime, early, "23/59", Qt::Key_Up},
+                    {"birthday 00:00", BirthTime, late, "00/00", Qt::Key_Down},
+                    {"wake-up 23:59", WakeupTime, early, "23/59", Qt::Key_PageUp},
+                    {"wake-up 00:00", WakeupTime, late, "00/00", Qt::Key_PageDown}};
+        for (const char* zone : kZones)
+            for (const auto& r : rows)
+                QTest::addRow("%s, %s", zone, r.what) << QByteArray(zone) << int(r.picker) << r.startedAt
+                                                      << QString::fromLatin1(r.typed) << int(r.beyond);
     }
 
     void extremesGiveWellFormedTexts() {
@@ -121,8 +113,7 @@ private slots:
         AppHarness app;
         Frame_Alarm* a = OpenEditor(app, Picker(picker));
         QVERIFY(a);
-        const Parts parts = PartsOf(a, Picker(picker));
-        QDateTimeEdit* edit = parts.edit;
+        const auto [edit, value, set] = PartsOf(a, Picker(picker));
         // The day the application is started on, at that time of day.
         edit->setDateTime(QDateTime(QDate(2026, 11, 24), startedAt, edit->timeSpec()));
         app.click(edit);
@@ -133,12 +124,12 @@ private slots:
         // the pickers do not wrap around.
         QTest::keyClick(app.handle(), Qt::Key(beyond));
         QCOMPARE(edit->text(), typed);
-        app.click(parts.set);
-        QCOMPARE(parts.value->captionText(), typed);
+        app.click(set);
+        QCOMPARE(value->captionText(), typed);
         QVERIFY(!edit->isVisible()); // Set closed the editor
 
         // Opened again, the picker still holds what was set.
-        app.click(parts.value);
+        app.click(value);
         QCOMPARE(edit->text(), typed);
     }
 };

@@ -6,11 +6,11 @@
 #include "Picture.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QImageReader>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,13 +21,12 @@ struct Row {
 
 // The manifest's rows: name, type, width, height, then free text.
 QList<Row> Manifest() {
-    QFile file(QStringLiteral(ROBOT_SOURCE_DIR "/resources/pictures.tsv"));
+    QFile file(u"" ROBOT_SOURCE_DIR "/resources/pictures.tsv"_s);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return {};
     QList<Row> rows;
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n')).mid(1);
-    for (const QString& line : lines) {
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n').mid(1)) {
         if (line.trimmed().isEmpty()) continue;
-        const QStringList cells = line.split(QLatin1Char('\t')) + QStringList(4, QString());
+        const QStringList cells = line.split(u'\t') + QStringList(4, QString());
         rows.append({cells[0], cells[1], QSize(cells[2].toInt(), cells[3].toInt())});
     }
     return rows;
@@ -36,10 +35,10 @@ QList<Row> Manifest() {
 // The format read from the file's bytes (not its name), the size its header declares, and
 // whether the whole image decodes to that size.
 void CheckShipped(const QString& path, const QString& type, QSize size) {
-    QVERIFY2(QFile::exists(path), qPrintable(path + QStringLiteral(" is not in the resources")));
+    QVERIFY2(QFile::exists(path), qPrintable(path + u" is not in the resources"_s));
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
-    QCOMPARE(reader.format(), type == QLatin1String("jpg") ? QByteArray("jpeg") : type.toLatin1());
+    QCOMPARE(reader.format(), type == "jpg"_L1 ? QByteArray("jpeg") : type.toLatin1());
     QCOMPARE(reader.size(), size);
     QCOMPARE(reader.read().size(), size);
 }
@@ -62,28 +61,25 @@ private slots:
         QFETCH(QString, type);
         QFETCH(QSize, size);
         QVERIFY2(!size.isEmpty(), "malformed manifest line");
-        QVERIFY2(!name.contains(QLatin1Char('@')) && !name.contains(QLatin1Char('/')), "clashes with a path");
-        QVERIFY(type == QLatin1String("png") || type == QLatin1String("jpg"));
-        CheckShipped(QStringLiteral(":/pictures/%1.%2").arg(name, type), type, size);
-        CheckShipped(QStringLiteral(":/pictures/%1@2x.%2").arg(name, type), type, size * 2);
+        QVERIFY2(!name.contains(u'@') && !name.contains(u'/'), "clashes with a path");
+        QVERIFY(type == "png"_L1 || type == "jpg"_L1);
+        CheckShipped(u":/pictures/%1.%2"_s.arg(name, type), type, size);
+        CheckShipped(u":/pictures/%1@2x.%2"_s.arg(name, type), type, size * 2);
 
         // The renderer stretches its source to the manifest's size: the source must be that size.
-        QFile svg(
-            QStringLiteral(ROBOT_SOURCE_DIR "/resources/svg/%1.svg").arg(QString(name).replace(' ', '_')));
+        QFile svg(u"" ROBOT_SOURCE_DIR "/resources/svg/%1.svg"_s.arg(QString(name).replace(u' ', u'_')));
         QVERIFY2(svg.open(QIODevice::ReadOnly), qPrintable(svg.fileName()));
-        const QString root = QRegularExpression(QStringLiteral("<svg\\b[^>]*>"))
-                                 .match(QString::fromUtf8(svg.read(4096)))
-                                 .captured();
-        const auto attr = [&root](const QString& key) {
-            return QRegularExpression(QStringLiteral("\\s%1\\s*=\\s*\"([^\"]*)\"").arg(key))
+        const QString root =
+            QRegularExpression(u"<svg\\b[^>]*>"_s).match(QString::fromUtf8(svg.read(4096))).captured();
+        const auto attr = [&root](const char* key) {
+            return QRegularExpression(u"\\s%1\\s*=\\s*\"([^\"]*)\""_s.arg(QLatin1String(key)))
                 .match(root)
                 .captured(1)
                 .simplified();
         };
-        QCOMPARE(attr(QStringLiteral("width")), QString::number(size.width()));
-        QCOMPARE(attr(QStringLiteral("height")), QString::number(size.height()));
-        QCOMPARE(attr(QStringLiteral("viewBox")),
-                 QStringLiteral("0 0 %1 %2").arg(size.width()).arg(size.height()));
+        QCOMPARE(attr("width"), QString::number(size.width()));
+        QCOMPARE(attr("height"), QString::number(size.height()));
+        QCOMPARE(attr("viewBox"), u"0 0 %1 %2"_s.arg(size.width()).arg(size.height()));
 
         // The application finds it by name and type, and draws either file over the same points.
         const Picture picture = Picture::Lookup(name, type);
@@ -104,14 +100,13 @@ private slots:
             listed << row.name + '.' + row.type << row.name + "@2x." + row.type;
         }
         QStringList unlisted;
-        QDirIterator it(QStringLiteral(":/pictures"), QDir::AllEntries | QDir::Hidden | QDir::System,
+        QDirIterator it(u":/pictures"_s, QDir::AllEntries | QDir::Hidden | QDir::System,
                         QDirIterator::Subdirectories);
-        while (it.hasNext()) {
-            const QString file = it.next().mid(QStringLiteral(":/pictures/").size());
-            if (!listed.contains(file)) unlisted << file;
-        }
+        while (it.hasNext())
+            if (const QString file = it.next().mid(11); !listed.contains(file)) // past ":/pictures/"
+                unlisted << file;
         QVERIFY2(unlisted.isEmpty(), qPrintable("not in the manifest: " + unlisted.join(", ")));
-        QVERIFY2(QDir(QStringLiteral(":/pictures")).count() > 0, "no pictures are shipped at all");
+        QVERIFY2(QDir(u":/pictures"_s).count() > 0, "no pictures are shipped at all");
     }
 };
 

@@ -5,10 +5,6 @@
 #include "Frame_MainMenu.h"
 #include "NSApplicationMain.h"
 
-#include <QTest>
-#include <QWidget>
-#include <QWindow>
-
 AppHarness::AppHarness() : m_window(LoadMainWindow()) {
     m_root = RootView(m_window.get());
     m_window->move(0, 0);
@@ -17,38 +13,6 @@ AppHarness::AppHarness() : m_window(LoadMainWindow()) {
 }
 
 AppHarness::~AppHarness() = default;
-
-QWindow* AppHarness::handle() const {
-    return m_window->windowHandle();
-}
-
-void AppHarness::moveTo(QPoint pos) {
-    QTest::mouseMove(handle(), pos);
-}
-
-void AppHarness::press(QPoint pos) {
-    QTest::mousePress(handle(), Qt::LeftButton, Qt::NoModifier, pos);
-}
-
-void AppHarness::release(QPoint pos) {
-    QTest::mouseRelease(handle(), Qt::LeftButton, Qt::NoModifier, pos);
-}
-
-void AppHarness::click(QPoint pos) {
-    moveTo(pos);
-    press(pos);
-    release(pos);
-}
-
-void AppHarness::leaveWindow() {
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(handle(), &leave);
-}
-
-QPoint AppHarness::at(const QWidget* widget, QPoint local) const {
-    if (local == QPoint(-1, -1)) local = widget->rect().center();
-    return widget->mapTo(m_window.get(), local);
-}
 
 bool AppHarness::waitForMainMenuReady(int timeoutMs) const {
     // The slide's own timing is tested once; everywhere else its ticks are taken at once.
@@ -59,18 +23,7 @@ bool AppHarness::waitForMainMenuReady(int timeoutMs) const {
 
 std::vector<QWidget*> AppHarness::shownScreens() const {
     std::vector<QWidget*> shown;
-    for (QObject* child : m_root->children()) {
-        auto* w = qobject_cast<QWidget*>(child);
-        if (w && !w->isHidden()) shown.push_back(w);
-    }
+    for (QObject* child : m_root->children())
+        if (auto* w = qobject_cast<QWidget*>(child); w && !w->isHidden()) shown.push_back(w);
     return shown;
-}
-
-QWidget* AppHarness::shownScreen() const {
-    const auto shown = shownScreens();
-    return shown.size() == 1 ? shown.front() : nullptr;
-}
-
-bool AppHarness::grab(const QString& path) const {
-    return m_window->grab().save(path);
 }

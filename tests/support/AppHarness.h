@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QPoint>
-#include <QString>
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
 
 #include <memory>
 #include <vector>
 
 class Frame_Control;
-class QWidget;
-class QWindow;
 
 // The real application window, shown (offscreen in tests), driven only through the window the
 // way a person's mouse does it: every press, release and move goes in at window coordinates and
@@ -19,18 +18,26 @@ public:
     ~AppHarness();
 
     QWidget* window() const { return m_window.get(); }
-    QWindow* handle() const;
+    QWindow* handle() const { return m_window->windowHandle(); }
     Frame_Control* root() const { return m_root; }
 
-    // Window coordinates.
-    void moveTo(QPoint pos);
-    void press(QPoint pos);
-    void release(QPoint pos);
-    void click(QPoint pos);
-    void leaveWindow();
+    void moveTo(QPoint pos) { QTest::mouseMove(handle(), pos); }
+    void press(QPoint pos) { QTest::mousePress(handle(), Qt::LeftButton, Qt::NoModifier, pos); }
+    void release(QPoint pos) { QTest::mouseRelease(handle(), Qt::LeftButton, Qt::NoModifier, pos); }
+    void click(QPoint pos) {
+        moveTo(pos);
+        press(pos);
+        release(pos);
+    }
+    void leaveWindow() {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(handle(), &leave);
+    }
 
     // A point of a widget (its centre by default) in window coordinates.
-    QPoint at(const QWidget* widget, QPoint local = QPoint(-1, -1)) const;
+    QPoint at(const QWidget* widget, QPoint local = QPoint(-1, -1)) const {
+        return widget->mapTo(window(), local == QPoint(-1, -1) ? widget->rect().center() : local);
+    }
     void click(const QWidget* widget) { click(at(widget)); }
     void moveTo(const QWidget* widget) { moveTo(at(widget)); }
 
@@ -39,9 +46,10 @@ public:
 
     // The screens (direct children of the root view) not hidden, in stacking order.
     std::vector<QWidget*> shownScreens() const;
-    QWidget* shownScreen() const;
-
-    bool grab(const QString& path) const;
+    QWidget* shownScreen() const {
+        const auto shown = shownScreens();
+        return shown.size() == 1 ? shown.front() : nullptr;
+    }
 
 private:
     std::unique_ptr<QWidget> m_window;

@@ -1,14 +1,25 @@
 // The views every screen is made of: captions drawn as the text system draws them, pictures found,
-// decoded once and drawn centred, float frames, stacking and the visible rectangle.
+// decoded once and drawn centred, float frames, stacking, the visible rectangle, the image button
+// under the mouse, and what a screen reader sees of the whole application.
 
+#include "AppHarness.h"
+#include "Button.h"
+#include "Frame_Control.h"
+#include "Frame_MainMenu.h"
+#include "Frame_Scenario.h"
 #include "NSColor.h"
-#include "NSImageViewS.h"
 
+#include <QAccessible>
+#include <QDateTimeEdit>
 #include <QFile>
+#include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTest>
 
-#include <utility>
+#include <functional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,7 +30,6 @@ QImage Render(QWidget* view) {
     return image;
 }
 
-// Bounding box of the pixels that are not transparent.
 QRect InkBox(const QImage& image) {
     QRect box;
     for (int y = 0; y < image.height(); ++y)
@@ -33,7 +43,7 @@ QRect InkBox(const QImage& image) {
 QImage Reference(QSize size, const QString& text, const QColor& colour, const NSRect& loc, int pixelSize) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    QFont font(QStringLiteral("Courier"));
+    QFont font(u"Courier"_s);
     font.setStyleHint(QFont::TypeWriter);
     font.setPixelSize(pixelSize);
     QPainter painter(&image);
@@ -41,16 +51,15 @@ QImage Reference(QSize size, const QString& text, const QColor& colour, const NS
     painter.setPen(colour);
     const QFontMetricsF metrics(font);
     QPointF origin(loc.x + 5, loc.y + metrics.ascent());
-    for (const QString& line : text.split(QLatin1Char('\n'))) {
+    for (const QString& line : text.split(u'\n')) {
         painter.drawText(origin, line);
         origin.ry() += metrics.lineSpacing();
     }
     return image;
 }
 
-// The image plugins mapped into this process.
 QStringList ImagePluginsLoaded() {
-    QFile maps(QStringLiteral("/proc/self/maps"));
+    QFile maps(u"/proc/self/maps"_s);
     QStringList plugins;
     if (!maps.open(QIODevice::ReadOnly)) return plugins;
     for (const QByteArray& line : maps.readAll().split('\n'))
@@ -59,6 +68,137 @@ QStringList ImagePluginsLoaded() {
     return plugins;
 }
 
+// What the button callbacks saw, in order, each with its context.
+struct Call {
+    QString what;
+    void* context;
+    Button* button;
+};
+QList<Call> calls;
+template <const char* What> void Record(void* c, Button* b) {
+    calls << Call{QString::fromLatin1(What), c, b};
+}
+constexpr char kAction[] = "action", kEntered[] = "entered", kExited[] = "exited", kHid[] = "hid";
+void HideOnRelease(void* c, Button* b) {
+    Record<kHid>(c, b);
+    b->setHidden(true);
+}
+
+// A page that counts the presses nobody else took.
+class Page : public NSViewS {
+public:
+    using NSViewS::NSViewS;
+    int presses = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent* e) override {
+        ++presses;
+        e->accept();
+    }
+};
+
+// A real shown window with one page and two buttons; b covers a's right end.
+struct Host {
+    QWidget window;
+    Page* page = new Page(MakeNSRect(0, 0, 400, 300));
+    Button* a = new Button(MakeNSRect(50, 50, 100, 40));
+    Button* b = new Button(MakeNSRect(120, 50, 100, 40));
+    int ctxAction = 0, ctxEntered = 0, ctxExited = 0;
+
+    Host() {
+        window.resize(500, 300); // the page leaves a strip on the right
+        NSViewS::AddSubview(&window, page);
+        for (Button* button : {a, b}) button->InitImage(u"up"_s, u"move"_s, u"down"_s, u"png"_s, page);
+        a->InitButtonAction(Record<kAction>, &ctxAction);
+        a->InitButtonEntered(Record<kEntered>, &ctxEntered);
+        a->InitButtonExited(Record<kExited>, &ctxExited);
+        calls.clear();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        move(QPoint(1, 1)); // the pointer starts away from the buttons
+    }
+    void move(QPoint p) { QTest::mouseMove(window.windowHandle(), p); }
+    void press(QPoint p) { QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, p); }
+    void release(QPoint p) { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, p); }
+};
+
+const QPoint inA(100, 70), inBoth(130, 70), outside(200, 200);
+
+// What the hand or the program does, by name.
+const QHash<QString, std::function<void(Host&)>> kSteps = {
+    {"press", [](Host& h) { h.press(inA); }},
+    {"release", [](Host& h) { h.release(inA); }},
+    {"releaseOutside", [](Host& h) { h.release(outside); }},
+    {"in", [](Host& h) { h.move(inA); }},
+    {"furtherIn", [](Host& h) { h.move(inA + QPoint(3, 3)); }},
+    {"out", [](Host& h) { h.move(outside); }},
+    {"register", [](Host& h) { h.a->RegisterHover(); }},
+    {"disable", [](Host& h) { h.a->SetEnable(0); }},
+    {"enable", [](Host& h) { h.a->SetEnable(1); }},
+    {"hide", [](Host& h) { h.a->setHidden(true); }},
+    {"show", [](Host& h) { h.a->setHidden(false); }},
+    {"hidePage", [](Host& h) { h.page->setHidden(true); }},
+    {"showPage", [](Host& h) { h.page->setHidden(false); }},
+    {"moveDown", [](Host& h) { h.a->setFrame(MakeNSRect(50, 150, 100, 40)); }},
+    {"halfOff", [](Host& h) { h.a->setFrame(MakeNSRect(350, 50, 100, 40)); }}, // past the page's edge
+    {"inHalfOff", [](Host& h) { h.move(QPoint(380, 70)); }},
+    {"pastPage", [](Host& h) { h.move(QPoint(420, 70)); }},
+    {"pressBoth", [](Host& h) { h.press(inBoth); }},
+    {"releaseBoth", [](Host& h) { h.release(inBoth); }},
+    {"hideOnRelease", [](Host& h) { h.a->InitButtonAction(HideOnRelease, &h.ctxAction); }},
+    {"picturesAgain", // brings a to the front, where it was
+     [](Host& h) {
+         h.a->InitImage(u"up2"_s, QString(), QString(), u"png"_s, h.page);
+         QCOMPARE(h.a->geometry(), QRect(50, 50, 100, 40));
+     }},
+};
+
+// The caption last shown (white, 15 pixels), if any, is laid out and kept; the new one must replace
+// it unless it is null.
+const struct {
+    const char *name, *text;
+    int size, x, y;
+    const char* kept;
+} kCaptions[] = {
+    {"menu caption", "Program scenario", 15, 90, 53, nullptr},
+    {"at the corner", "512", 12, 0, 0, nullptr},
+    {"lines", "Wake-up\nBirthday", 16, 6, 10, nullptr},
+    {"empty middle line", "a\n\nb", 20, 3, 2, nullptr},
+    {"not wrapped", "Synchronization Synchronization", 24, 40, 30, nullptr},
+    {"hover colour", "Alarm/Clock", 15, 0, 0, "Alarm/Clock"},
+    {"another text", "Settings", 15, 0, 0, "Alarm/Clock"},
+    {"another size", "Daily\nOnce", 22, 0, 0, "Daily\nOnce"},
+    {"empty text replaces", "", 15, 0, 0, "Program"},
+    {"null text keeps the old caption", nullptr, 22, 4, 4, "Back"},
+};
+
+// Scripts of steps, the callbacks they fire, the button's final look, and the presses the page took.
+const struct {
+    const char *name, *script, *seen, *look;
+    int pagePresses;
+} kScripts[] = {
+    {"press shows down", "press", "", "down", 0},
+    {"release acts once", "press release", "action", "up", 0},
+    {"dragged off, still acts", "press out releaseOutside", "action", "up", 0},
+    {"pointing without registration", "in out", "", "up", 0},
+    {"enter, act, exit", "register in press release out", "entered action exited", "up", 0},
+    {"one event per registration", "register register in furtherIn out", "entered entered exited exited",
+     "up", 0},
+    {"under the pointer", "register in", "entered", "move", 0},
+    {"disabled ignores the mouse, the page takes the press", "register disable in press release out", "",
+     "up", 1},
+    {"enabled again, no new registration needed", "register disable enable in press release",
+     "entered action", "up", 0},
+    {"disabling keeps the picture shown", "register in disable out", "entered", "move", 0},
+    {"registered while hidden: never fires", "hide register show in out", "", "up", 0},
+    {"registered while the page was hidden: never fires", "hidePage register showPage in out", "", "up", 0},
+    {"registration stays where it was made", "register moveDown in", "entered", "move", 0},
+    {"only the part on view is registered", "halfOff register inHalfOff pastPage", "entered exited", "up", 0},
+    {"setting pictures again brings it to the front", "picturesAgain pressBoth releaseBoth", "action", "up",
+     0},
+    {"a callback that hides the button has the last word", "hideOnRelease press release", "hid", "hidden", 0},
+};
+
 } // namespace
 
 class TestViewKit : public QObject {
@@ -66,47 +206,31 @@ class TestViewKit : public QObject {
 private slots:
     // Runs first, before anything else in this process has read a picture.
     void pngPicturesLoadNoImagePlugin() {
-        if (!QFile::exists(QStringLiteral("/proc/self/maps"))) QSKIP("no /proc here");
-        if (!QFile::exists(QStringLiteral(":/pictures/mainpage_bg.png"))) QSKIP("artwork not built in");
+        if (!QFile::exists(u"/proc/self/maps"_s)) QSKIP("no /proc here");
+        if (!QFile::exists(u":/pictures/mainpage_bg.png"_s)) QSKIP("artwork not built in");
         for (const char* name : {"mainpage_bg", "logo_main", "but_question", "long bar"})
-            QVERIFY2(!Picture::Lookup(QString::fromLatin1(name), QStringLiteral("png")).pixmap(1.0).isNull(),
-                     name);
-        QVERIFY2(ImagePluginsLoaded().isEmpty(), qPrintable(ImagePluginsLoaded().join(QLatin1Char(' '))));
+            QVERIFY2(!Picture::Lookup(QString::fromLatin1(name), u"png"_s).pixmap(1.0).isNull(), name);
+        QVERIFY2(ImagePluginsLoaded().isEmpty(), qPrintable(ImagePluginsLoaded().join(u' ')));
     }
 
-    // The caption last shown (white, 15 pixels) is laid out and kept; the new one must replace it.
     void captionsAreTheSamePixelsAsDrawingEachLine_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("size");
-        QTest::addColumn<QPoint>("origin");
-        QTest::addColumn<QString>("kept");
-        const QString none;
-        QTest::newRow("menu caption") << "Program scenario" << 15 << QPoint(90, 53) << none;
-        QTest::newRow("at the corner") << "512" << 12 << QPoint(0, 0) << none;
-        QTest::newRow("lines") << "Wake-up\nBirthday" << 16 << QPoint(6, 10) << none;
-        QTest::newRow("empty middle line") << "a\n\nb" << 20 << QPoint(3, 2) << none;
-        QTest::newRow("not wrapped") << "Synchronization Synchronization" << 24 << QPoint(40, 30) << none;
-        QTest::newRow("hover colour") << "Alarm/Clock" << 15 << QPoint(0, 0) << "Alarm/Clock";
-        QTest::newRow("another text") << "Settings" << 15 << QPoint(0, 0) << "Alarm/Clock";
-        QTest::newRow("another size") << "Daily\nOnce" << 22 << QPoint(0, 0) << "Daily\nOnce";
-        QTest::newRow("empty text replaces") << "" << 15 << QPoint(0, 0) << "Program";
-        QTest::newRow("null text keeps the old caption") << none << 22 << QPoint(4, 4) << "Back";
+        QTest::addColumn<int>("i");
+        for (int i = 0; i < int(std::size(kCaptions)); ++i) QTest::newRow(kCaptions[i].name) << i;
     }
     void captionsAreTheSamePixelsAsDrawingEachLine() {
-        QFETCH(QString, text);
-        QFETCH(int, size);
-        QFETCH(QPoint, origin);
-        QFETCH(QString, kept);
-        const QString font = QStringLiteral("Courier");
+        QFETCH(int, i);
+        const QString text = QString::fromLatin1(kCaptions[i].text),
+                      kept = QString::fromLatin1(kCaptions[i].kept);
+        const int size = kCaptions[i].size;
         NSImageViewS view(MakeNSRect(0, 0, 260, 120));
-        const NSRect loc = MakeNSRect(origin.x(), origin.y(), 50, 16);
+        const NSRect loc = MakeNSRect(kCaptions[i].x, kCaptions[i].y, 50, 16);
         if (!kept.isNull()) {
-            view.InitText(kept, NSColor::whiteColor(), 0, loc, font, 15);
+            view.InitText(kept, NSColor::whiteColor(), 0, loc, u"Courier"_s, 15);
             Render(&view);
         }
         const bool keeps = text.isNull();
         view.InitText(text, NSColor::orangeColor(), 2 /* centred: ignored */,
-                      keeps ? MakeNSRect(50, 50, 1, 1) : loc, font, size);
+                      keeps ? MakeNSRect(50, 50, 1, 1) : loc, u"Courier"_s, size);
         const QImage expected = keeps ? Reference(view.size(), kept, NSColor::whiteColor(), loc, 15)
                                       : Reference(view.size(), text, NSColor::orangeColor(), loc, size);
         QCOMPARE(Render(&view), expected);
@@ -115,18 +239,18 @@ private slots:
 
     void aMissingPictureShowsNothing() {
         NSImageViewS view(MakeNSRect(0, 0, 50, 50));
-        const QString q = QStringLiteral("but_question");
-        for (const auto& [name, type] : {std::pair{QStringLiteral("no such picture"), QStringLiteral("png")},
-                                         std::pair{q, QString()}, std::pair{q, QStringLiteral("jpg")}}) {
+        const QString q = u"but_question"_s;
+        for (const auto& [name, type] :
+             {std::pair{u"no such picture"_s, u"png"_s}, std::pair{q, QString()}, std::pair{q, u"jpg"_s}}) {
             view.InitImage(name, type, 50, 50, nullptr);
             QVERIFY(InkBox(Render(&view)).isEmpty());
         }
     }
 
     void aPictureIsDrawnCentredAtTheSizeItWasGiven() {
-        if (!QFile::exists(QStringLiteral(":/pictures/but_question.png"))) QSKIP("artwork not built in");
+        if (!QFile::exists(u":/pictures/but_question.png"_s)) QSKIP("artwork not built in");
         NSImageViewS view(MakeNSRect(0, 0, 100, 100));
-        view.InitImage(QStringLiteral("but_question"), QStringLiteral("png"), 60, 40, nullptr);
+        view.InitImage(u"but_question"_s, u"png"_s, 60, 40, nullptr);
         const QRect box = InkBox(Render(&view));
         QVERIFY(QRect(20, 30, 60, 40).contains(box));
         // Scaled up from its 29 x 28 file: it spans most of the 60 x 40 it was given.
@@ -134,11 +258,11 @@ private slots:
     }
 
     void viewsShowingOneFileShareItsPixels() {
-        if (!QFile::exists(QStringLiteral(":/pictures/scenario_bg.png"))) QSKIP("artwork not built in");
-        const Picture a = Picture::Lookup(QStringLiteral("scenario_bg"), QStringLiteral("png"));
-        Picture b = Picture::Lookup(QStringLiteral("scenario_bg"), QStringLiteral("png"));
+        if (!QFile::exists(u":/pictures/scenario_bg.png"_s)) QSKIP("artwork not built in");
+        const Picture a = Picture::Lookup(u"scenario_bg"_s, u"png"_s);
+        Picture b = Picture::Lookup(u"scenario_bg"_s, u"png"_s);
         b.setSize(QSizeF(10, 10)); // a view's size does not make a copy of the pixels either
-        const Picture other = Picture::Lookup(QStringLiteral("mainpage_bg"), QStringLiteral("png"));
+        const Picture other = Picture::Lookup(u"mainpage_bg"_s, u"png"_s);
         for (const qreal ratio : {1.0, 2.0}) {
             QCOMPARE(a.pixmap(ratio).cacheKey(), b.pixmap(ratio).cacheKey());
             QVERIFY(other.pixmap(ratio).cacheKey() != a.pixmap(ratio).cacheKey());
@@ -167,8 +291,7 @@ private slots:
         hidden->setHidden(true);
         for (QWidget* child : {a, b, hidden, a}) page->addSubview(child);
         QCOMPARE(page->childAt(5, 5), static_cast<QWidget*>(a));
-        QVERIFY(a->isVisible() && b->isVisible());
-        QVERIFY(hidden->isHidden());
+        QVERIFY(a->isVisible() && b->isVisible() && hidden->isHidden());
     }
 
     void visibleRectIsClippedByEveryAncestor() {
@@ -189,6 +312,70 @@ private slots:
         panel->setHidden(false);
         child->setFrame(MakeNSRect(60, 60, 10, 10)); // entirely outside its parent
         QVERIFY(child->visibleRect().isEmpty());
+    }
+
+    // The image button: pictures per state, the action on release, and hover registrations that
+    // fire once per registration for the rectangle on view when it was made.
+    void buttonScripts_data() {
+        QTest::addColumn<int>("i");
+        for (int i = 0; i < int(std::size(kScripts)); ++i) QTest::newRow(kScripts[i].name) << i;
+    }
+    void buttonScripts() {
+        QFETCH(int, i);
+        const auto& [name, script, seen, look, pagePresses] = kScripts[i];
+        Host h;
+        for (const QString& step : QString::fromLatin1(script).split(u' ')) {
+            QVERIFY2(kSteps.contains(step), qPrintable(step));
+            kSteps.value(step)(h);
+        }
+        const QHash<QString, void*> contexts = {{"action", &h.ctxAction},
+                                                {"hid", &h.ctxAction},
+                                                {"entered", &h.ctxEntered},
+                                                {"exited", &h.ctxExited}};
+        QStringList saw;
+        for (const Call& c : calls) {
+            saw << c.what;
+            QCOMPARE(c.button, h.a);
+            QCOMPARE(c.context, contexts.value(c.what)); // each callback gets its own context
+        }
+        QCOMPARE(saw.join(u' '), QString::fromLatin1(seen));
+        const char* looks[] = {"up", "move", "down"};
+        QCOMPARE(h.a->isHidden() ? "hidden" : looks[int(h.a->look())], look);
+        QCOMPARE(h.page->presses, pagePresses);
+    }
+
+    // Through QAccessible only: every control, on every screen and page, is a push button with a
+    // name a person can say and a press action; every text field has a name.
+    void everyControlIsNamed() {
+        AppHarness app;
+        QVERIFY(app.waitForMainMenuReady()); // the menu's Settings gets its caption on arrival
+        QStringList unnamed;
+        for (Button* button : app.root()->findChildren<Button*>()) {
+            QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(button);
+            QVERIFY(iface);
+            QCOMPARE(iface->role(), QAccessible::Button);
+            const QString name = iface->text(QAccessible::Name);
+            if (name.isEmpty() || name == "Button"_L1 || name.contains(u'\n'))
+                unnamed << button->BtnImageUp.name();
+            QVERIFY(iface->actionInterface() && iface->actionInterface()->actionNames().contains(
+                                                    QAccessibleActionInterface::pressAction()));
+        }
+        QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(u", "_s)));
+        for (const QWidget* field : app.root()->findChildren<QDateTimeEdit*>())
+            QVERIFY(!field->accessibleName().isEmpty());
+        QVERIFY(!app.root()->frmScenario->txtScenarioName->accessibleName().isEmpty());
+    }
+
+    // The press action does what a click does: the screen changes, the button comes back up.
+    void pressDoesWhatAClickDoes() {
+        AppHarness app;
+        QVERIFY(app.waitForMainMenuReady());
+        Button* program = app.root()->frmMainMenu->BtnProgram;
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(program);
+        QCOMPARE(iface->text(QAccessible::Name), u"Program scenario"_s);
+        iface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(app.shownScreen(), static_cast<QWidget*>(app.root()->frmScenario));
+        QCOMPARE(program->look(), Button::Look::Up);
     }
 };
 
