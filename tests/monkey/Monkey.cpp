@@ -179,9 +179,9 @@ QString Monkey::Result::summary() const {
 }
 
 Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool(qint64 done)>& progress) {
-    // Said first: a sanitizer stops the process at once, and the seed must be on record then.
+    // Said first, on the unbuffered stream: a sanitizer stops the process at once, and the seed must
+    // be on record then.
     std::fprintf(stderr, "monkey: seed %llu, %lld inputs\n", seed, inputs);
-    std::fflush(stderr);
     Result result{seed, inputs};
     AppHarness app;
     Hand monkey{app, std::mt19937_64(seed)};
@@ -210,8 +210,6 @@ Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool
 
 void Monkey::FromEnvironment(QList<quint64>& seeds, qint64& inputs) {
     bool ok = false;
-    const quint64 seed = qEnvironmentVariable("ROBOT_MONKEY_SEED").toULongLong(&ok);
-    if (ok) seeds = {seed};
-    const qint64 count = qEnvironmentVariable("ROBOT_MONKEY_INPUTS").toLongLong(&ok);
-    if (ok && count > 0) inputs = count;
+    if (const quint64 seed = qEnvironmentVariable("ROBOT_MONKEY_SEED").toULongLong(&ok); ok) seeds = {seed};
+    if (const qint64 n = qEnvironmentVariable("ROBOT_MONKEY_INPUTS").toLongLong(&ok); ok && n > 0) inputs = n;
 }
