@@ -23,43 +23,32 @@ namespace {
 qsizetype ChildWidgets(const QWidget* view) {
     return view->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size();
 }
+const auto Shown = [](const QWidget* w) { return w && !w->isHidden(); };
 
-bool Shown(const QWidget* w) {
-    return w && !w->isHidden();
-}
-
-} // namespace
-
-QStringList AppInvariants::check() const {
-    return checkScreens() + checkPath() + checkTimeline() + checkAlarm() + checkSoundButtons() + checkList() +
-           checkTimers() + checkFocus();
-}
-
-QStringList AppInvariants::checkScreens() const {
+QStringList checkScreens(const Frame_Control* root) {
     // In the order of ScreenId.
-    const QWidget* screens[] = {m_root->frmMainMenu, m_root->frmScenario, m_root->frmAlarm,
-                                m_root->frmMovement, m_root->frmSound,    m_root->frmFace,
-                                m_root->frmLazer};
-    const int expected = int(m_root->navigator().shown());
+    const QWidget* screens[] = {root->frmMainMenu, root->frmScenario, root->frmAlarm, root->frmMovement,
+                                root->frmSound,    root->frmFace,     root->frmLazer};
+    const int expected = int(root->navigator().shown());
     const auto shown = std::count_if(std::begin(screens), std::end(screens), Shown);
     if (shown == 1 && Shown(screens[expected])) return {};
     return {QStringLiteral("%1 screens shown, the navigator's is %2").arg(shown).arg(expected)};
 }
 
-QStringList AppInvariants::checkPath() const {
-    const Frame_MoveMent* m = m_root->frmMovement;
+QStringList checkPath(const Frame_Control* root) {
+    const Frame_MoveMent* m = root->frmMovement;
     const qint32 pieces = m->PathInfo.iItemCnt;
     bool inStep = pieces >= 0 && pieces <= PathPlacement::kMaxPieces && ChildWidgets(m->frmPath) == pieces;
     for (qint32 i = 0; i < PathPlacement::kMaxPieces && inStep; ++i)
         inStep = (m->PathImg[i] != nullptr) == (i < pieces);
-    if (!inStep) return {QStringLiteral("path views out of step with %1 pieces").arg(pieces)};
-    return {};
+    return inStep ? QStringList()
+                  : QStringList{QStringLiteral("path views out of step with %1 pieces").arg(pieces)};
 }
 
 // At rest every item also stands where the layout puts it for the page on view.
-QStringList AppInvariants::checkTimeline() const {
-    const SOUNDSETCONTENT& c = m_root->frmSound->SoundContent;
-    const SoundTimeline& t = m_root->frmSound->Timeline;
+QStringList checkTimeline(const Frame_Control* root) {
+    const SOUNDSETCONTENT& c = root->frmSound->SoundContent;
+    const SoundTimeline& t = root->frmSound->Timeline;
     bool inStep = t.iItemNum >= 0 && t.iItemNum <= kSoundContentItemMax &&
                   ChildWidgets(c.frmSoundContent) == 3 * t.iItemNum;
     for (qint32 i = 0; i < kSoundContentItemMax && inStep; ++i) {
@@ -78,25 +67,22 @@ QStringList AppInvariants::checkTimeline() const {
     return {};
 }
 
-QStringList AppInvariants::checkAlarm() const {
+QStringList checkAlarm(const Frame_Control* root) {
     using Page = AlarmFlow::Page;
     using Editor = AlarmFlow::Editor;
-    const Frame_Alarm* a = m_root->frmAlarm;
-    const Page page = a->flow.page();
-    const Editor editor = a->flow.editor();
+    const Frame_Alarm* a = root->frmAlarm;
+    const int page = int(a->flow.page()), editor = int(a->flow.editor());
     const std::pair<const QWidget*, bool> views[] = {
-        {a->frmChooseView, page == Page::Choose},
-        {a->frmBirthdayControlView, page == Page::Birthday},
-        {a->frmWakeupControlView, page == Page::Wakeup},
-        {a->frmDoneView, page == Page::Confirmation},
-        {a->frmBirthDateEditView, editor == Editor::BirthDate},
-        {a->frmBirthTimeEditView, editor == Editor::BirthTime},
-        {a->frmWakeupTimeEditView, editor == Editor::WakeupTime}};
+        {a->frmChooseView, page == int(Page::Choose)},
+        {a->frmBirthdayControlView, page == int(Page::Birthday)},
+        {a->frmWakeupControlView, page == int(Page::Wakeup)},
+        {a->frmDoneView, page == int(Page::Confirmation)},
+        {a->frmBirthDateEditView, editor == int(Editor::BirthDate)},
+        {a->frmBirthTimeEditView, editor == int(Editor::BirthTime)},
+        {a->frmWakeupTimeEditView, editor == int(Editor::WakeupTime)}};
     for (const auto& [view, expected] : views)
         if (Shown(view) != expected)
-            return {QStringLiteral("alarm views out of step with page %1, editor %2")
-                        .arg(int(page))
-                        .arg(int(editor))};
+            return {QStringLiteral("alarm views out of step with page %1, editor %2").arg(page).arg(editor)};
     const std::pair<const Button*, QString> texts[] = {
         {a->BtnBirthDate, a->flow.formattedBirthDateString()},
         {a->BtnBirthTime, a->flow.formattedBirthTimeString()},
@@ -106,10 +92,10 @@ QStringList AppInvariants::checkAlarm() const {
     return {};
 }
 
-QStringList AppInvariants::checkSoundButtons() const {
-    const SoundSetBoard& board = m_root->frmSound->Board;
+QStringList checkSoundButtons(const Frame_Control* root) {
+    const SoundSetBoard& board = root->frmSound->Board;
     for (qint32 i = Frame_Sound::kBtnSoundFirst; i <= Frame_Sound::kBtnSoundLast; ++i) {
-        const Button* b = m_root->frmSound->BtnButton[i];
+        const Button* b = root->frmSound->BtnButton[i];
         if (b->captionText() != QLatin1String(SoundSetName(board.SoundOf(i))) ||
             (b->BtnImageUp.name() == QLatin1String(SoundPictures::kMark)) != board.MarkOn(i))
             return {QStringLiteral("sound button %1 out of step with its board").arg(i)};
@@ -117,8 +103,8 @@ QStringList AppInvariants::checkSoundButtons() const {
     return {};
 }
 
-QStringList AppInvariants::checkList() const {
-    const Frame_Scenario* s = m_root->frmScenario;
+QStringList checkList(const Frame_Control* root) {
+    const Frame_Scenario* s = root->frmScenario;
     for (qint32 r = 0; r < ScenarioList::kRows; ++r) {
         const Button* row = s->BtnScenarioName[r];
         const bool inList = r < s->shownRows();
@@ -134,21 +120,28 @@ QStringList AppInvariants::checkList() const {
 
 // The robot's slide runs until it arrives and the menu comes alive then; a timeline scroll's timer
 // is kept exactly while it runs.
-QStringList AppInvariants::checkTimers() const {
-    const RobotSlide& slide = m_root->frmMainMenu->robotSlide;
+QStringList checkTimers(const Frame_Control* root) {
+    const RobotSlide& slide = root->frmMainMenu->robotSlide;
     if ((slide.timer && slide.timer->isActive() == slide.hasArrived()) ||
-        Shown(m_root->frmMainMenu->BtnProgram) != slide.hasArrived())
+        Shown(root->frmMainMenu->BtnProgram) != slide.hasArrived())
         return {QStringLiteral("the robot's timer or the menu's buttons out of step with the robot")};
-    const QTimer* scroll = m_root->frmSound->Timeline.timer;
-    if (scroll && !scroll->isActive()) return {QStringLiteral("a scroll timer is kept but stopped")};
-    return {};
+    const QTimer* scroll = root->frmSound->Timeline.timer;
+    return scroll && !scroll->isActive() ? QStringList{QStringLiteral("a scroll timer is kept but stopped")}
+                                         : QStringList();
 }
 
 // Typing goes to the focused widget: one that is not on view would take keys the user cannot
 // see land, and a later Create or Set would write them.
-QStringList AppInvariants::checkFocus() const {
+QStringList checkFocus() {
     const QWidget* focused = QApplication::focusWidget();
     if (!focused || !NSViewS::VisibleRect(focused).isEmpty()) return {};
     return {QStringLiteral("the keyboard focus is on %1 \"%2\", which is not on view")
                 .arg(QString::fromLatin1(focused->metaObject()->className()), focused->accessibleName())};
+}
+
+} // namespace
+
+QStringList AppInvariants(const Frame_Control* root) {
+    return checkScreens(root) + checkPath(root) + checkTimeline(root) + checkAlarm(root) +
+           checkSoundButtons(root) + checkList(root) + checkTimers(root) + checkFocus();
 }

@@ -1,6 +1,7 @@
 #include "Monkey.h"
 
 #include "AppHarness.h"
+#include "AppInvariants.h"
 #include "Button.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
@@ -14,6 +15,7 @@
 #include <QTest>
 
 #include <cstdio>
+#include <random>
 #include <vector>
 
 namespace {
@@ -25,9 +27,8 @@ constexpr int kWeights[] = {40, 4, 2, 22, 6, 2, 2, 12, 4, 2, 3, 1};
 const char* const kNames[] = {"click on a control", "click anywhere", "double click", "move", "drag", "stray press",
                               "stray release", "keystroke", "typed text", "paste", "wait", "leave window"};
 
-// Keys a user presses in and around the name field and the date pickers, now and then with Shift
-// or Ctrl. Keys that open the platform's context menus (Menu, Shift+F10) are left out: the
-// pickers run those menus in a nested event loop that only a person can end.
+// Keys a user presses in and around the name field and the date pickers. The context menu keys
+// (Menu, Shift+F10) are left out: the pickers run those menus in a nested loop only a person ends.
 const Qt::Key kKeys[] = {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z, Qt::Key_0, Qt::Key_5,
     Qt::Key_9, Qt::Key_Space, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
     Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End, Qt::Key_Tab, Qt::Key_Backtab,
@@ -48,117 +49,142 @@ const char16_t* const kTexts[] = {
 // text out again on every key, and a long run would spend its time laying out millions of them.
 constexpr qsizetype kLongText = 20000;
 
-// A control is something a person aims at: a button, the name field or a date picker (the line
-// edit inside a picker is the picker's own business).
+// What a person aims at: a button, the name field or a date picker (not the picker's own line edit).
 bool IsControl(const QWidget* w) {
     if (qobject_cast<const Button*>(w) || qobject_cast<const QAbstractSpinBox*>(w)) return true;
     return qobject_cast<const QLineEdit*>(w) && !qobject_cast<const QAbstractSpinBox*>(w->parentWidget());
 }
 
+// Where the input is made: one hand on the window, drawing every choice from one generator.
+struct Hand {
+    AppHarness& m_app;
+    std::mt19937_64 m_rng;
+    bool m_held = false;
+    QStringList m_broken;
+
+    // After every event: false once a rule broke, and then nothing more is sent.
+    bool holds() {
+        if (m_broken.isEmpty()) m_broken = AppInvariants(m_app.root());
+        return m_broken.isEmpty();
+    }
+    bool move(QPoint p) {
+        m_app.moveTo(p);
+        return holds();
+    }
+    bool button(QPoint p, bool down) {
+        down ? m_app.press(p) : m_app.release(p);
+        m_held = down;
+        return holds();
+    }
+    bool wait(int ms) {
+        QTest::qWait(ms);
+        return holds();
+    }
+    QPoint aim() {
+        // Done with an alarm on holds the screen for seconds under the confirmation page; aimed at
+        // as often as the rest it would spend most of a run waiting.
+        const QWidget* done = m_app.root()->frmAlarm->BtnDone;
+        std::vector<QWidget*> controls;
+        if (QWidget* screen = m_app.shownScreen())
+            for (QWidget* w : screen->findChildren<QWidget*>())
+                if (IsControl(w) && !NSViewS::VisibleRect(w).isEmpty() && (w != done || chance(20)))
+                    controls.push_back(w);
+        if (controls.empty()) return anywhere();
+        QWidget* control = controls[below(int(controls.size()))];
+        const QRect r = NSViewS::VisibleRect(control);
+        return NotCorner(m_app.at(control, {r.x() + below(r.width()), r.y() + below(r.height())}));
+    }
+    // Now and then the hand rests between press and release, and timers run meanwhile.
+    bool click(QPoint p) {
+        return move(p) && button(p, true) && (!chance(10) || wait(below(120))) && button(p, false);
+    }
+    bool drag() {
+        QPoint p = chance(70) ? aim() : anywhere();
+        if (!move(p) || !button(p, true)) return false;
+        for (int i = 1 + below(6); i > 0; --i) {
+            // Left of or above the window now and then: a drag leaves it there.
+            p = !chance(15)  ? (chance(50) ? aim() : anywhere())
+                : chance(50) ? QPoint(-1 - below(40), below(768))
+                             : QPoint(below(1024), -1 - below(40));
+            if (!move(p)) return false;
+        }
+        return button(p.x() < 0 || p.y() < 0 ? anywhere() : p, false);
+    }
+    bool key(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text = {}) {
+        text.isEmpty() ? QTest::keyClick(m_app.handle(), key, modifiers)
+                       : QTest::sendKeyEvent(QTest::Click, m_app.handle(), key, text, modifiers);
+        return holds();
+    }
+    // Typed text comes as one key event carrying the whole of it, as an input method hands over a
+    // composed string; pasted text goes through the clipboard.
+    bool text(bool paste) {
+        const auto* field = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+        if (field && field->text().size() > kLongText && !key(Qt::Key_A, Qt::ControlModifier)) return false;
+        const QString text = QString::fromUtf16(kTexts[below(int(std::size(kTexts)))])
+                                 .repeated(paste ? (chance(10) ? 1 + below(3000) : 1 + below(3))
+                                                 : (chance(5) ? 1 + below(400) : 1));
+        if (!paste) return key(Qt::Key_unknown, Qt::NoModifier, text);
+        QGuiApplication::clipboard()->setText(text);
+        return key(Qt::Key_V, Qt::ControlModifier);
+    }
+
+    int step() { // answers the kind of input sent
+        // The confirmation page takes every click for a few seconds: mostly let it run out.
+        if (m_app.root()->frmAlarm->frmDoneView->isVisible() && chance(60)) {
+            wait(100 + below(400));
+            return Wait;
+        }
+        const Kind kind =
+            Kind(std::discrete_distribution<int>(std::begin(kWeights), std::end(kWeights))(m_rng));
+        // A button held since a stray press comes up before the next press, as a hand's would.
+        if (m_held && kind != Move && (kind < Keystroke || kind == LeaveWindow))
+            if (!button(anywhere(), false) || kind == StrayPress || kind == StrayRelease ||
+                kind == LeaveWindow)
+                return kind;
+        if (kind == ClickControl || kind == ClickAnywhere) click(kind == ClickControl ? aim() : anywhere());
+        if (kind == Move) move(chance(45) ? aim() : anywhere());
+        if (kind == Drag) drag();
+        if (kind == StrayPress) button(aim(), true);
+        if (kind == StrayRelease) move(anywhere());
+        if (kind == Keystroke)
+            key(kKeys[below(int(std::size(kKeys)))], kModifiers[below(int(std::size(kModifiers)))]);
+        if (kind == TypeText || kind == Paste) text(kind == Paste);
+        if (kind == Wait) wait(below(150));
+        if (kind == LeaveWindow) m_app.leaveWindow();
+        if (kind == DoubleClick) {
+            const QPoint p = aim();
+            if (move(p)) QTest::mouseDClick(m_app.handle(), Qt::LeftButton, Qt::NoModifier, p);
+        }
+        holds();
+        return kind;
+    }
+    int below(int bound) { return bound <= 1 ? 0 : std::uniform_int_distribution<int>(0, bound - 1)(m_rng); }
+    bool chance(int percent) { return below(100) < percent; }
+    QPoint anywhere() { return NotCorner({below(1024), below(768)}); }
+    // (0, 0) is "the middle" to QTest.
+    static QPoint NotCorner(QPoint p) { return p.isNull() ? QPoint(0, 1) : p; }
+};
+
 } // namespace
-
-QPoint Monkey::aim() {
-    // Done with an alarm on holds the screen for seconds under the confirmation page; aimed at
-    // as often as the rest it would spend most of a run waiting.
-    const QWidget* done = m_app.root()->frmAlarm->BtnDone;
-    std::vector<QWidget*> controls;
-    if (QWidget* screen = m_app.shownScreen())
-        for (QWidget* w : screen->findChildren<QWidget*>())
-            if (IsControl(w) && !NSViewS::VisibleRect(w).isEmpty() && (w != done || chance(20)))
-                controls.push_back(w);
-    if (controls.empty()) return anywhere();
-    QWidget* control = controls[below(int(controls.size()))];
-    const QRect r = NSViewS::VisibleRect(control);
-    return NotCorner(m_app.at(control, {r.x() + below(r.width()), r.y() + below(r.height())}));
-}
-
-// Now and then the hand rests between press and release, and timers run meanwhile.
-bool Monkey::click(QPoint p) {
-    return move(p) && button(p, true) && (!chance(10) || wait(below(120))) && button(p, false);
-}
-
-bool Monkey::drag() {
-    QPoint p = chance(70) ? aim() : anywhere();
-    if (!move(p) || !button(p, true)) return false;
-    for (int i = 1 + below(6); i > 0; --i) {
-        // Left of or above the window now and then: a drag leaves it there.
-        p = !chance(15)  ? (chance(50) ? aim() : anywhere())
-            : chance(50) ? QPoint(-1 - below(40), below(768))
-                         : QPoint(below(1024), -1 - below(40));
-        if (!move(p)) return false;
-    }
-    return button(p.x() < 0 || p.y() < 0 ? anywhere() : p, false);
-}
-
-bool Monkey::key(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    if (text.isEmpty())
-        QTest::keyClick(m_app.handle(), key, modifiers);
-    else
-        QTest::sendKeyEvent(QTest::Click, m_app.handle(), key, text, modifiers);
-    return holds();
-}
-
-// Typed text comes as one key event carrying the whole of it, as an input method hands over a
-// composed string; pasted text goes through the clipboard.
-bool Monkey::text(bool paste) {
-    const auto* field = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
-    if (field && field->text().size() > kLongText && !key(Qt::Key_A, Qt::ControlModifier)) return false;
-    const QString text = QString::fromUtf16(kTexts[below(int(std::size(kTexts)))])
-                             .repeated(paste ? (chance(10) ? 1 + below(3000) : 1 + below(3))
-                                             : (chance(5) ? 1 + below(400) : 1));
-    if (!paste) return key(Qt::Key_unknown, Qt::NoModifier, text);
-    QGuiApplication::clipboard()->setText(text);
-    return key(Qt::Key_V, Qt::ControlModifier);
-}
-
-int Monkey::step() {
-    // The confirmation page takes every click for a few seconds: mostly let it run out.
-    if (m_app.root()->frmAlarm->frmDoneView->isVisible() && chance(60)) {
-        wait(100 + below(400));
-        return Wait;
-    }
-    const Kind kind = Kind(std::discrete_distribution<int>(std::begin(kWeights), std::end(kWeights))(m_rng));
-    // A button held since a stray press comes up before the next press: no hand presses a
-    // button that is already down.
-    if (m_held && kind != Move && (kind < Keystroke || kind == LeaveWindow))
-        if (!button(anywhere(), false) || kind == StrayPress || kind == StrayRelease || kind == LeaveWindow)
-            return kind;
-    if (kind == ClickControl || kind == ClickAnywhere) click(kind == ClickControl ? aim() : anywhere());
-    if (kind == Move) move(chance(45) ? aim() : anywhere());
-    if (kind == Drag) drag();
-    if (kind == StrayPress) button(aim(), true);
-    if (kind == StrayRelease) move(anywhere());
-    if (kind == Keystroke)
-        key(kKeys[below(int(std::size(kKeys)))], kModifiers[below(int(std::size(kModifiers)))]);
-    if (kind == TypeText || kind == Paste) text(kind == Paste);
-    if (kind == Wait) wait(below(150));
-    if (kind == LeaveWindow) m_app.leaveWindow();
-    if (kind == DoubleClick) {
-        const QPoint p = aim();
-        if (move(p)) QTest::mouseDClick(m_app.handle(), Qt::LeftButton, Qt::NoModifier, p);
-    }
-    holds();
-    return kind;
-}
 
 QString Monkey::Result::summary() const {
     QString text = QStringLiteral("monkey seed %1: %2 of %3 inputs (").arg(seed).arg(done).arg(planned);
-    for (auto it = inputsOn.cbegin(); it != inputsOn.cend(); ++it)
-        text += QStringLiteral("%1 on %2, ").arg(it.value()).arg(it.key());
+    for (auto [screen, count] : inputsOn.asKeyValueRange())
+        text += QStringLiteral("%1 on %2, ").arg(count).arg(screen);
     if (ok()) return text + QStringLiteral("every rule held)");
-    text += QStringLiteral("rules broken after input %1):\n").arg(failedAt) + (broken + trace).join('\n');
-    return text + QStringLiteral("\nreplay: ROBOT_MONKEY_SEED=%1 ROBOT_MONKEY_INPUTS=%2")
-                      .arg(seed)
-                      .arg(failedAt + 1);
+    const QString replay =
+        QStringLiteral("replay: ROBOT_MONKEY_SEED=%1 ROBOT_MONKEY_INPUTS=%2").arg(seed).arg(failedAt + 1);
+    return text + QStringLiteral("rules broken after input %1):\n").arg(failedAt) +
+           (broken + trace + QStringList{replay}).join('\n');
 }
 
 Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool(qint64 done)>& progress) {
-    // Said first: a sanitizer stops the process at once, and the seed must be on record then.
+    // Said first, on the unbuffered stream: a sanitizer stops the process at once, and the seed must
+    // be on record then.
     std::fprintf(stderr, "monkey: seed %llu, %lld inputs\n", seed, inputs);
-    std::fflush(stderr);
     Result result{seed, inputs};
     AppHarness app;
-    Monkey monkey(app, seed);
+    Hand monkey{app, std::mt19937_64(seed)};
     if (!monkey.holds()) result.failedAt = 0;
     for (qint64 i = 0; result.ok() && i < inputs; ++i) {
         const QString screen = QString::fromLatin1(app.shownScreen()->metaObject()->className());
@@ -172,11 +198,10 @@ Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool
             break;
     }
     // The rules must hold at rest as well, once the scroll and the confirmation have run out.
-    const Frame_Control* root = app.root();
-    if (result.ok() &&
-        !QTest::qWaitFor(
-            [root] { return !root->frmSound->Timeline.Busy() && !root->frmAlarm->frmDoneView->isVisible(); },
-            60000))
+    const auto atRest = [root = app.root()] {
+        return !root->frmSound->Timeline.Busy() && !root->frmAlarm->frmDoneView->isVisible();
+    };
+    if (result.ok() && !QTest::qWaitFor(atRest, 60000))
         monkey.m_broken << QStringLiteral("the scroll or the confirmation page never ended");
     if (result.ok() && !monkey.holds()) result.failedAt = result.done;
     result.broken = monkey.m_broken;
@@ -185,8 +210,6 @@ Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool
 
 void Monkey::FromEnvironment(QList<quint64>& seeds, qint64& inputs) {
     bool ok = false;
-    const quint64 seed = qEnvironmentVariable("ROBOT_MONKEY_SEED").toULongLong(&ok);
-    if (ok) seeds = {seed};
-    const qint64 count = qEnvironmentVariable("ROBOT_MONKEY_INPUTS").toLongLong(&ok);
-    if (ok && count > 0) inputs = count;
+    if (const quint64 seed = qEnvironmentVariable("ROBOT_MONKEY_SEED").toULongLong(&ok); ok) seeds = {seed};
+    if (const qint64 n = qEnvironmentVariable("ROBOT_MONKEY_INPUTS").toLongLong(&ok); ok && n > 0) inputs = n;
 }
