@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what building, running and testing Robot Companion needs on Debian 12, if missing.
+# Installs what building, running and testing Robot Companion needs on Debian 12, if missing,
+# and the packages named as arguments (what one script alone needs).
 set -euo pipefail
 
 PACKAGES=(
@@ -10,6 +11,7 @@ PACKAGES=(
     tzdata
     xvfb xauth xdotool x11-utils strace
     desktop-file-utils appstream
+    "$@"
 )
 
 missing=()

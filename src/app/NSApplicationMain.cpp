@@ -23,8 +23,8 @@ int NSApplicationMain(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("robot-companion"));
     QApplication::setApplicationDisplayName(QStringLiteral("Robot Companion"));
     // The desktop entry names the installed icon; run from the build tree, the mascot stands in.
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.robotcompanion.RobotCompanion"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.robotcompanion.RobotCompanion"),
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.robotcompanion.robotcompanion"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.robotcompanion.robotcompanion"),
                                                  QIcon(QStringLiteral(":/pictures/logo_main.png"))));
     std::unique_ptr<QWidget> window = LoadMainWindow();
     window->show();
