@@ -7,47 +7,36 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <algorithm>
 #include <csignal>
 
 namespace {
-// What a traced run may not do, judged one line of `strace -f` output at a time: open a network
-// socket, or change the file system. Reading is free; so is writing to /dev/ (device nodes, shared
-// memory), /proc/ and the allowed folders. An attempt counts even when it fails. Resumed halves,
-// signals and exits are not judged: the first half of a split call has its arguments.
-QString SideEffectOf(const QString& line, const QStringList& allowed) {
-    static const QRegularExpression call(QStringLiteral("^(?:(?:\\[pid\\s+)?\\d+\\]?\\s+)?(\\w+)\\((.*)$"));
-    static const QRegularExpression quoted(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
-    static const QRegularExpression network(QStringLiteral("^(AF_INET6?|AF_PACKET)\\b"));
-    static const QRegularExpression writing(
-        QStringLiteral("\\b(O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_APPEND)\\b"));
-    static const QStringList opening = QString("open openat openat2 creat").split(' ');
+// One line of `strace -f` output is a side effect when it opens a network socket, or opens for
+// writing or changes a path outside /dev/, /proc/ and `allowed` (a change with no path is to an
+// open file). Reading is free; an attempt counts even when it fails. Resumed halves, signals and
+// exits do not match: the first half of a split call has its arguments.
+bool IsSideEffect(const QString& line, const QString& allowed) {
+    static const QRegularExpression call("^(?:(?:\\[pid\\s+)?\\d+\\]?\\s+)?(\\w+)\\((.*)$"),
+        quoted("\"((?:[^\"\\\\]|\\\\.)*)\""), network("^AF_(INET6?|PACKET)\\b"),
+        writing("\\b(O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_APPEND)\\b");
     static const QStringList changing =
-        QString("mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 "
-                "link linkat symlink symlinkat truncate chmod fchmodat chown "
-                "lchown fchownat utime utimes utimensat mknod mknodat setxattr "
-                "lsetxattr removexattr lremovexattr")
+        QString("creat mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 link linkat symlink "
+                "symlinkat truncate chmod fchmodat chown lchown fchownat utime utimes utimensat mknod "
+                "mknodat setxattr lsetxattr removexattr lremovexattr")
             .split(' ');
     const auto m = call.match(line);
-    if (!m.hasMatch()) return {};
     const QString name = m.captured(1), args = m.captured(2);
+    if (name == "socket") return network.match(args).hasMatch();
     QStringList paths;
     for (auto it = quoted.globalMatch(args); it.hasNext();) paths << it.next().captured(1);
-    const auto forbidden = [&allowed](const QString& path) {
-        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"))) return false;
-        for (const QString& folder : allowed)
-            if (path == folder || path.startsWith(folder + QLatin1Char('/'))) return false;
-        return true;
-    };
-    if (name == QLatin1String("socket"))
-        if (const auto n = network.match(args); n.hasMatch())
-            return QStringLiteral("opens a network socket (%1)").arg(n.captured(1));
-    if (opening.contains(name) && (name == QLatin1String("creat") || writing.match(args).hasMatch()) &&
-        !paths.isEmpty() && forbidden(paths.first()))
-        return QStringLiteral("opens %1 for writing").arg(paths.first());
-    if (changing.contains(name) && paths.isEmpty()) return QStringLiteral("%1 on an open file").arg(name);
-    for (const QString& path : paths)
-        if (changing.contains(name) && forbidden(path)) return QStringLiteral("%1 %2").arg(name, path);
-    return {};
+    if (name.startsWith("open") && writing.match(args).hasMatch())
+        paths = paths.mid(0, 1);
+    else if (!changing.contains(name))
+        return false;
+    return paths.isEmpty() || std::any_of(paths.begin(), paths.end(), [&allowed](const QString& path) {
+               return !path.startsWith("/dev/") && !path.startsWith("/proc/") && path != allowed &&
+                      !path.startsWith(allowed + '/');
+           });
 }
 } // namespace
 
@@ -115,10 +104,9 @@ QStringList AppWindow::sideEffects() const {
     if (!m_traced || !trace.open(QIODevice::ReadOnly)) return {};
     QStringList effects;
     while (!trace.atEnd())
-        if (const QString effect = SideEffectOf(QString::fromLocal8Bit(trace.readLine()).trimmed(),
-                                                {m_scratch.filePath("runtime")});
-            !effect.isEmpty() && !effects.contains(effect))
-            effects << effect;
+        if (const QString line = QString::fromLocal8Bit(trace.readLine()).trimmed();
+            IsSideEffect(line, m_scratch.filePath("runtime")))
+            effects << line;
     return effects;
 }
 

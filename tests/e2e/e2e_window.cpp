@@ -28,9 +28,8 @@ constexpr QRect Back(714, 711, 85, 40), BackOnEditor(715, 712, 85, 40), Config2(
 constexpr QRect MovementTabOnMovement(498, 199, 64, 63), SoundTabOnMovement(663, 199, 64, 63);
 constexpr QRect SoundTabOnSound(589, 199, 64, 63), LaserTabOnSound(722, 199, 64, 63),
     LaserTabOnLaser(660, 199, 64, 63);
-constexpr QRect LaserPicture(540, 326, 380, 340), DatePicker(552, 339, 195, 50), Status(96, 329, 326, 46);
-constexpr QRect BirthdayOn(124, 340, 111, 46), BirthdayOff(235, 340, 111, 46), EditorSet(791, 362, 111, 46);
-constexpr QRect BirthDate(205, 417, 180, 46), AlarmDone(839, 711, 85, 40);
+constexpr QRect LaserPicture(540, 326, 380, 340), Status(96, 329, 326, 46), AlarmDone(839, 711, 85, 40);
+constexpr QRect BirthdayOn(124, 340, 111, 46), BirthdayOff(235, 340, 111, 46);
 // The first row of sound buttons, and the timeline's first three places.
 constexpr QRect SoundButtons[] = {{100, 338, 111, 46}, {221, 338, 111, 46}, {340, 338, 111, 46}};
 constexpr QRect TimelineSlots[] = {{564, 329, 111, 46}, {685, 329, 111, 46}, {805, 329, 111, 46}};
@@ -43,7 +42,6 @@ QRect Part(const QRect& frame, int x, int y, int w, int h) {
 
 // The band of an item or sound button below its caption, and the part of a menu button clear of it.
 constexpr QRect kBelowCaption(14, 32, 97, 14), kMenuPart(0, 0, 250, 48);
-const QRect kDateCaption = Part(At::BirthDate, 8, 8, 110, 30);
 
 const char* const kMenu = "mainpage_bg";
 const char* const kCommon = "common_bg";
@@ -53,7 +51,6 @@ const char* const kBtn1 = "but_normal_Btn01";
 const char* const kBtn1Chosen = "but_selected_Btn01";
 
 const Button kStatus{At::Status, "but_normal_Btn03", nullptr, {210, 0, 116, 46}};
-const Button kDateButton{At::BirthDate, "but_normal_Btn02", nullptr, {120, 0, 60, 46}};
 const Button kCreateUp{At::CreateNamed, kBtn1, "but_over_Btn01", {75, 0, 36, 46}};
 
 using Check = std::function<QString(const QImage&)>;
@@ -130,32 +127,14 @@ class TestEndToEnd : public QObject {
                waitFor(step + ", create view", Buttons(kCommon, {kCreateUp}));
     }
 
-    // From the main menu to the birthday page with the alarm on and its date button shown.
+    // From the main menu to the birthday page with the alarm on.
     bool openBirthdayOn() {
         const QRect half{45, 0, 66, 46};
-        return menuReady("menu") && m_app->click(At::Alarm.center()) &&
-               waitFor("choose page", Buttons(kCommon, {kStatus})) && m_app->click(At::Status.center()) &&
-               waitFor(
-                   "birthday page",
-                   Buttons(kCommon, {{At::AlarmDone, "but_common_BtnSilver", nullptr, {58, 0, 27, 40}}})) &&
+        return menuReady("menu") && m_app->click(At::Alarm.center()) && m_app->click(At::Status.center()) &&
                m_app->click(At::BirthdayOn.center()) &&
                waitFor("birthday on",
                        Buttons(kCommon, {{At::BirthdayOn, kBtn1Chosen, kBtn1, half},
-                                         {At::BirthdayOff, "but_disabled_Btn01", kBtn1Chosen, half},
-                                         kDateButton}));
-    }
-
-    // The birthday date editor opened, worked by `keys`, and closed with Set.
-    bool editDate(const std::function<void()>& keys) {
-        if (!m_app->click(At::BirthDate.center()) ||
-            !waitFor("date editor", Buttons(kCommon, {{At::EditorSet, kBtn1, nullptr, {75, 0, 36, 46}}})))
-            return false;
-        const QImage editorOpen = shot();
-        // The app takes X input in order: the keys land in the picker before the click on Set.
-        keys();
-        return m_app->click(At::EditorSet.center()) &&
-               waitFor("date set", Buttons(kCommon, {kDateButton}),
-                       Changed(editorOpen, At::EditorSet, 3, "the editor is still open"));
+                                         {At::BirthdayOff, "but_disabled_Btn01", kBtn1Chosen, half}}));
     }
 
 private slots:
@@ -201,7 +180,7 @@ private slots:
         const QImage emptyField = shot();
         QVERIFY(app.click(At::NameField.center()) && app.type("Robo"));
         WAIT_FOR("name typed", Buttons(kCommon, {kCreateUp}),
-                 Changed(emptyField, At::NameField, 3, "the name field shows no text"));
+                 Changed(emptyField, Part(At::NameField, 0, 0, 60, 20), 3, "the name field shows no text"));
         QVERIFY(app.click(At::CreateNamed.center()));
         WAIT_FOR("movement screen", movementScreen);
         QVERIFY(app.click(At::SoundTabOnMovement.center()));
@@ -234,6 +213,16 @@ private slots:
         WAIT_FOR("back on the movement screen", movementScreen);
         QVERIFY(app.click(At::BackOnEditor.center()) && app.moveTo(At::Park));
         CHECK(menuReady("back on the menu"));
+
+        // Keys typed while the name field is off view change nothing: right of "Robo" and its caret
+        // the field stays empty.
+        QVERIFY(app.type("XYZXYZXYZ") && app.click(At::Program.center()));
+        CHECK(openCreateView("scenario screen again"));
+        WAIT_FOR("name field again", Buttons(kCommon, {kCreateUp}), [&](const QImage& s) {
+            return Scene::Difference(s, emptyField, Part(At::NameField, 60, 0, 130, 20)) > 1
+                       ? QStringLiteral("the hidden field took the keys")
+                       : QString();
+        });
     }
 
     void alarmWithConfirmation() {
@@ -244,15 +233,7 @@ private slots:
         const Scene confirmation = Scene(kCommon).picture("Pim_confirmation", {0, 0}, "jpg");
         const Scene choosePage = Scene(kCommon).button("but_normal_Btn03", At::Status);
         const QRect lowerHalf(0, 430, 1024, 270);
-        WAIT_FOR("confirmation page", {{"confirmation picture", lowerHalf, confirmation, choosePage}},
-                 [](const QImage& s) {
-                     // The message's second line ends in "I'll", its last letter near the bubble's
-                     // edge: thin strokes on navy, where any clearly orange pixel is ink.
-                     return Scene::Ink(s, QRect(438, 310, 9, 18),
-                                       [](const QColor& c) { return c.red() > 120 && c.blue() < 100; }) < 6
-                                ? QStringLiteral("the message's \"I'll\" is cut")
-                                : QString();
-                 });
+        WAIT_FOR("confirmation page", {{"confirmation picture", lowerHalf, confirmation, choosePage}});
         WAIT_FOR("choose page again", Buttons(kCommon, {kStatus})
                                           << Look{"no confirmation", lowerHalf, choosePage, confirmation});
 
@@ -265,58 +246,6 @@ private slots:
         QTRY_VERIFY2_WITH_TIMEOUT(line.match(app.errorOutput()).hasMatch(), qPrintable(app.errorOutput()),
                                   20000);
         QCOMPARE(app.errorOutput().count("BackToMainMenu"), 1);
-    }
-
-    // Keys typed while a field is not on view change nothing: the name typed before Back is all the
-    // field holds when the screen shows again.
-    void typingReachesOnlyWhatIsOnView() {
-        AppWindow& app = *m_app;
-        CHECK(menuReady("menu"));
-        QVERIFY(app.click(At::Program.center()));
-        CHECK(openCreateView("scenario screen"));
-        const QImage emptyField = shot();
-        QVERIFY(app.click(At::NameField.center()) && app.type("Robo"));
-        WAIT_FOR("name typed", Buttons(kCommon, {kCreateUp}),
-                 Changed(emptyField, Part(At::NameField, 0, 0, 60, 20), 3, "the name field shows no text"));
-
-        QVERIFY(app.click(At::Back.center()) && app.moveTo(At::Park));
-        CHECK(menuReady("back on the menu"));
-        QVERIFY(app.type("XYZXYZXYZ") && app.click(At::Program.center()));
-        CHECK(openCreateView("scenario screen again"));
-        // Right of "Robo" and its caret the field stays empty.
-        WAIT_FOR("name field again", Buttons(kCommon, {kCreateUp}), [&](const QImage& s) {
-            return Scene::Difference(s, emptyField, Part(At::NameField, 60, 0, 130, 20)) > 1
-                       ? QStringLiteral("the hidden field took the keys")
-                       : QString();
-        });
-    }
-
-    // A birthday is a calendar date: picked in a zone that skipped that day, the button writes the
-    // same date as in UTC.
-    void birthdayIsTheDayPickedInEveryZone() {
-        QImage inZone[2];
-        const char* const zones[] = {"UTC", "Pacific/Apia"};
-        for (int i = 0; i < 2; ++i) {
-            qputenv("TZ", zones[i]);
-            const bool started = startApp();
-            qunsetenv("TZ");
-            CHECK(started);
-            // The year selected, then the digits: a full section hands the typing on to the next.
-            CHECK(openBirthdayOn() && editDate([this] {
-                      if (m_app->click(At::DatePicker.topLeft() + QPoint(24, 36))) m_app->key("Home");
-                      for (int k = 0; k < 4; ++k) m_app->key("shift+Right");
-                      m_app->type("20111230");
-                  }));
-            // A screenshot may catch a repaint half flushed: the one that counts comes after it settled.
-            QTest::qWait(500);
-            inZone[i] = shot();
-        }
-        const bool same = Scene::Difference(inZone[0], inZone[1], kDateCaption) < 0.5;
-        if (!same) {
-            inZone[0].save("e2e-birthday-UTC.png");
-            inZone[1].save("e2e-birthday-Apia.png");
-        }
-        QVERIFY2(same, "the date picked in Apia is written differently from the same date in UTC");
     }
 };
 

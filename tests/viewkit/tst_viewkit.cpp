@@ -1,6 +1,6 @@
-// The views every screen is made of: captions drawn as the text system draws them, pictures found,
-// decoded once and drawn centred, float frames, stacking, the visible rectangle, the image button
-// under the mouse, and what a screen reader sees of the whole application.
+// The views every screen is made of: captions drawn as the text system draws them, pictures drawn
+// centred or not at all, the image button under the mouse, and what a screen reader sees of the
+// whole application.
 
 #include "AppHarness.h"
 #include "Button.h"
@@ -56,16 +56,6 @@ QImage Reference(QSize size, const QString& text, const QColor& colour, const NS
         origin.ry() += metrics.lineSpacing();
     }
     return image;
-}
-
-QStringList ImagePluginsLoaded() {
-    QFile maps(u"/proc/self/maps"_s);
-    QStringList plugins;
-    if (!maps.open(QIODevice::ReadOnly)) return plugins;
-    for (const QByteArray& line : maps.readAll().split('\n'))
-        if (line.contains("/imageformats/"))
-            plugins << QString::fromLocal8Bit(line.mid(line.lastIndexOf(' ') + 1));
-    return plugins;
 }
 
 // What the button callbacks saw, in order, each with its context.
@@ -204,15 +194,6 @@ const struct {
 class TestViewKit : public QObject {
     Q_OBJECT
 private slots:
-    // Runs first, before anything else in this process has read a picture.
-    void pngPicturesLoadNoImagePlugin() {
-        if (!QFile::exists(u"/proc/self/maps"_s)) QSKIP("no /proc here");
-        if (!QFile::exists(u":/pictures/mainpage_bg.png"_s)) QSKIP("artwork not built in");
-        for (const char* name : {"mainpage_bg", "logo_main", "but_question", "long bar"})
-            QVERIFY2(!Picture::Lookup(QString::fromLatin1(name), u"png"_s).pixmap(1.0).isNull(), name);
-        QVERIFY2(ImagePluginsLoaded().isEmpty(), qPrintable(ImagePluginsLoaded().join(u' ')));
-    }
-
     void captionsAreTheSamePixelsAsDrawingEachLine_data() {
         QTest::addColumn<int>("i");
         for (int i = 0; i < int(std::size(kCaptions)); ++i) QTest::newRow(kCaptions[i].name) << i;
@@ -255,63 +236,6 @@ private slots:
         QVERIFY(QRect(20, 30, 60, 40).contains(box));
         // Scaled up from its 29 x 28 file: it spans most of the 60 x 40 it was given.
         QVERIFY(box.width() > 45 && box.height() > 30);
-    }
-
-    void viewsShowingOneFileShareItsPixels() {
-        if (!QFile::exists(u":/pictures/scenario_bg.png"_s)) QSKIP("artwork not built in");
-        const Picture a = Picture::Lookup(u"scenario_bg"_s, u"png"_s);
-        Picture b = Picture::Lookup(u"scenario_bg"_s, u"png"_s);
-        b.setSize(QSizeF(10, 10)); // a view's size does not make a copy of the pixels either
-        const Picture other = Picture::Lookup(u"mainpage_bg"_s, u"png"_s);
-        for (const qreal ratio : {1.0, 2.0}) {
-            QCOMPARE(a.pixmap(ratio).cacheKey(), b.pixmap(ratio).cacheKey());
-            QVERIFY(other.pixmap(ratio).cacheKey() != a.pixmap(ratio).cacheKey());
-        }
-    }
-
-    void floatFrameIsKeptWhileTheWidgetSitsOnWholePixels() {
-        NSViewS view(MakeNSRect(0, 0, 10, 10));
-        const NSRect f{-88.0f, 96.5f, 33.0f, 33.0f};
-        view.setFrame(f);
-        QCOMPARE(view.frame(), f);
-        QCOMPARE(view.geometry(), QRect(-88, 97, 33, 33));
-    }
-
-    void addSubviewRaisesAndKeepsHiddenChildrenHidden() {
-        QWidget window;
-        window.resize(100, 100);
-        auto* page = new NSViewS(MakeNSRect(0, 0, 100, 100));
-        NSViewS::AddSubview(&window, page);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        // Added after the window is shown: Qt would leave them all hidden.
-        auto* a = new NSViewS(MakeNSRect(0, 0, 10, 10));
-        auto* b = new NSViewS(MakeNSRect(0, 0, 10, 10));
-        auto* hidden = new NSViewS(MakeNSRect(50, 50, 10, 10));
-        hidden->setHidden(true);
-        for (QWidget* child : {a, b, hidden, a}) page->addSubview(child);
-        QCOMPARE(page->childAt(5, 5), static_cast<QWidget*>(a));
-        QVERIFY(a->isVisible() && b->isVisible() && hidden->isHidden());
-    }
-
-    void visibleRectIsClippedByEveryAncestor() {
-        QWidget window;
-        window.resize(300, 300);
-        auto* page = new NSViewS(MakeNSRect(0, 0, 300, 300));
-        NSViewS::AddSubview(&window, page);
-        auto* panel = new NSViewS(MakeNSRect(100, 100, 50, 50));
-        page->addSubview(panel);
-        auto* child = new NSViewS(MakeNSRect(-10, 30, 40, 40)); // sticks out left and bottom
-        panel->addSubview(child);
-        QVERIFY(child->visibleRect().isEmpty()); // the window is not on screen yet
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QCOMPARE(child->visibleRect(), QRect(10, 0, 30, 20));
-        panel->setHidden(true);
-        QVERIFY(child->visibleRect().isEmpty());
-        panel->setHidden(false);
-        child->setFrame(MakeNSRect(60, 60, 10, 10)); // entirely outside its parent
-        QVERIFY(child->visibleRect().isEmpty());
     }
 
     // The image button: pictures per state, the action on release, and hover registrations that
