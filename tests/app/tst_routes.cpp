@@ -71,7 +71,7 @@ private slots:
                 for (const QChar c : step.mid(5)) QTest::keyClick(app.handle(), c.toLatin1());
                 continue;
             }
-            QWidget* control = OnView(app.shownScreen(), step);
+            QWidget* control = OnView(app.root(), step);
             QVERIFY2(control, qPrintable(step + QStringLiteral(" is not on view")));
             app.click(control);
         }
@@ -79,7 +79,7 @@ private slots:
         const QHash<QString, QWidget*> screens = {{"main menu", r->frmMainMenu}, {"scenario", r->frmScenario},
                                                   {"alarm", r->frmAlarm},        {"movement", r->frmMovement},
                                                   {"sound", r->frmSound},        {"laser", r->frmLazer}};
-        QCOMPARE(app.shownScreens(), std::vector<QWidget*>{screens.value(shown)});
+        QCOMPARE(app.shownScreen(), screens.value(shown));
         auto* probe = qobject_cast<Button*>(OnView(r, shown == "main menu" ? "Program scenario" : "Back"));
         QVERIFY(probe);
         app.moveTo(QPoint(400, 20)); // off the button, then onto it

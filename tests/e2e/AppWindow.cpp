@@ -57,7 +57,7 @@ bool AppWindow::startServer(QString* why) {
          m_server.waitForStarted(10000) && !number.contains('\n') && !deadline.hasExpired();)
         if (m_server.waitForReadyRead(200)) number += m_server.readAllStandardOutput();
     bool ok = false;
-    m_display = QStringLiteral(":%1").arg(number.trimmed().toInt(&ok));
+    m_env.insert("DISPLAY", QStringLiteral(":%1").arg(number.trimmed().toInt(&ok)));
     // The server answers as soon as it has said its number; make sure the tools can talk to it.
     if (ok && xdotool({"getmouselocation"})) return true;
     *why =
@@ -66,15 +66,9 @@ bool AppWindow::startServer(QString* why) {
     return false;
 }
 
-QProcessEnvironment AppWindow::environment() const {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("DISPLAY", m_display);
-    return env;
-}
-
 bool AppWindow::run(const QString& program, const QStringList& args, QByteArray* output) const {
     QProcess tool;
-    tool.setProcessEnvironment(environment());
+    tool.setProcessEnvironment(m_env);
     tool.start(program, args);
     // Waiting reads the output into the process's buffer: a large screenshot cannot block the pipe.
     if (!tool.waitForFinished(30000)) {
@@ -112,13 +106,12 @@ QStringList AppWindow::sideEffects() const {
 
 bool AppWindow::start(const QString& binary, QString* why) {
     if (!startServer(why)) return false;
-    QProcessEnvironment env = environment();
+    QProcessEnvironment env = m_env;
     // The tests around may run offscreen; this one needs the real X window.
     env.insert("QT_QPA_PLATFORM", "xcb");
     // A home and a runtime folder of its own: writing anywhere but the runtime folder is caught.
     const QString home = m_scratch.filePath("home"), runtime = m_scratch.filePath("runtime");
-    QDir().mkpath(home);
-    QDir().mkpath(runtime);
+    for (const QString& folder : {home, runtime}) QDir().mkpath(folder);
     QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     env.insert("HOME", home);
     env.insert("XDG_RUNTIME_DIR", runtime);
@@ -130,10 +123,9 @@ bool AppWindow::start(const QString& binary, QString* why) {
     if (m_traced) env.insert("ASAN_OPTIONS", env.value("ASAN_OPTIONS") + ":detect_leaks=0");
     m_process.setProcessEnvironment(env);
     m_process.setStandardOutputFile(QProcess::nullDevice());
-    if (m_traced)
-        m_process.start(strace, {"-f", "-qq", "-o", tracePath(), "-e", "trace=%file,%network", binary});
-    else
-        m_process.start(binary, {});
+    m_process.start(m_traced ? strace : binary, m_traced ? QStringList{"-f", "-qq", "-o", tracePath(), "-e",
+                                                                       "trace=%file,%network", binary}
+                                                         : QStringList{});
     if (!m_process.waitForStarted(20000)) {
         *why = QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString());
         return false;

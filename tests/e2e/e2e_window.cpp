@@ -1,20 +1,121 @@
 #include "AppWindow.h"
-#include "Scene.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QGuiApplication>
+#include <QHash>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>
 
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 
 // The real robot-companion binary in a private X server, worked only with X input at the window
 // coordinates of the layout tables, and judged by regions of screenshots against the rendered
 // pictures that must show there.
 namespace {
+
+// What a part of the window must look like, built from the rendered pictures the app itself
+// shows: a screen's background with pictures laid over it where the layout tables put them.
+struct Scene {
+    static inline QString folder; // the rendered pictures, named as on disk, spaces as underscores
+    QImage image{1024, 768, QImage::Format_RGB32};
+    bool valid = true;
+
+    // A picture by its resource name; null when it was not rendered.
+    static QImage Picture(const QString& name, const QString& type = "png") {
+        static QHash<QString, QImage> cache;
+        const QString file = folder + '/' + QString(name).replace(' ', '_') + '.' + type;
+        if (!cache.contains(file)) cache.insert(file, QImage(file));
+        return cache.value(file);
+    }
+    explicit Scene(const QString& background, const QString& type = "png") {
+        image.fill(Qt::black);
+        picture(background, {0, 0}, type);
+    }
+    // A picture at its natural size with its top left corner at `at` (window coordinates).
+    Scene& picture(const QString& name, QPoint at, const QString& type = "png") {
+        const QImage picture = Picture(name, type);
+        valid = valid && !picture.isNull();
+        QPainter(&image).drawImage(at, picture);
+        return *this;
+    }
+    // A button's picture: natural size, against the frame's left edge, centred vertically (half a
+    // point down in a frame of odd height: Qt rounds as the app does).
+    Scene& button(const QString& name, const QRect& frame) {
+        return picture(name,
+                       {frame.x(), frame.y() + qRound((frame.height() - Picture(name).height()) / 2.0)});
+    }
+
+    // Mean difference of two images over a region, 0 (same) to 255, over the three colour
+    // channels; 255 when the region is not inside both.
+    static double Difference(const QImage& a, const QImage& b, const QRect& region) {
+        if (region.isEmpty() || !a.rect().contains(region) || !b.rect().contains(region)) return 255.0;
+        const QImage x = a.convertToFormat(QImage::Format_RGB32), y = b.convertToFormat(QImage::Format_RGB32);
+        qint64 sum = 0;
+        for (int row = region.top(); row <= region.bottom(); ++row) {
+            const auto* p = reinterpret_cast<const QRgb*>(x.constScanLine(row));
+            const auto* q = reinterpret_cast<const QRgb*>(y.constScanLine(row));
+            for (int col = region.left(); col <= region.right(); ++col)
+                sum += std::abs(qRed(p[col]) - qRed(q[col])) + std::abs(qGreen(p[col]) - qGreen(q[col])) +
+                       std::abs(qBlue(p[col]) - qBlue(q[col]));
+        }
+        return double(sum) / (3.0 * region.width() * region.height());
+    }
+    // Pixels of a region the test counts as ink.
+    static int Ink(const QImage& shot, const QRect& region, bool (*isInk)(const QColor&)) {
+        int n = 0;
+        for (int y = region.top(); y <= region.bottom(); ++y)
+            for (int x = region.left(); x <= region.right(); ++x) n += isInk(shot.pixelColor(x, y)) ? 1 : 0;
+        return n;
+    }
+};
+
+// A region of the window must show the expected scene rather than the other one.
+struct Look {
+    QString what;
+    QRect region;
+    Scene expected, other;
+
+    // Empty when the shot shows the look, else what is wrong. The expected scene may differ from
+    // the shot by a little; the two scenes must differ by enough for the region to tell them apart.
+    QString judge(const QImage& shot) const {
+        if (!expected.valid || !other.valid)
+            return what + ": a picture of the check is missing in " + Scene::folder;
+        if (const double apart = Scene::Difference(expected.image, other.image, region); apart < 8.0)
+            return what + QStringLiteral(": the region cannot tell the two looks apart (%1)").arg(apart);
+        const double d = Scene::Difference(shot, expected.image, region),
+                     dOther = Scene::Difference(shot, other.image, region);
+        if (d <= 3.0 && d * 3 < dOther) return {};
+        return what + QStringLiteral(": differs by %1 from what it should show, by %2 from the other look")
+                          .arg(d, 0, 'f', 1)
+                          .arg(dOther, 0, 'f', 1);
+    }
+};
+
+// A button at `frame` showing `shown` rather than `instead` (null: its frame bare), compared over
+// `part` of the frame.
+struct Button {
+    QRect frame;
+    const char *shown, *instead;
+    QRect part;
+};
+
+// The looks of buttons on a background.
+QList<Look> Buttons(const char* background, const QList<Button>& buttons) {
+    const auto with = [background](const char* picture, const QRect& frame) {
+        Scene scene{background};
+        return picture ? scene.button(picture, frame) : scene;
+    };
+    QList<Look> looks;
+    for (const auto& [frame, shown, instead, part] : buttons)
+        looks << Look{QStringLiteral("%1 at (%2, %3)").arg(shown).arg(frame.x()).arg(frame.y()),
+                      part.translated(frame.topLeft()), with(shown, frame), with(instead, frame)};
+    return looks;
+}
 
 // Frames of the layout tables in window coordinates, the origins of their sub-views added.
 namespace At {

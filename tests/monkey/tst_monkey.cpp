@@ -1,5 +1,4 @@
 #include "AppHarness.h"
-#include "AppInvariants.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
 #include "Frame_Face.h"
