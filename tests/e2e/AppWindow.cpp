@@ -106,6 +106,10 @@ QStringList AppWindow::sideEffects() const {
 
 bool AppWindow::start(const QString& binary, QString* why) {
     if (!startServer(why)) return false;
+    const auto fail = [why](const QString& reason) {
+        *why = reason;
+        return false;
+    };
     QProcessEnvironment env = m_env;
     // The tests around may run offscreen; this one needs the real X window.
     env.insert("QT_QPA_PLATFORM", "xcb");
@@ -126,10 +130,8 @@ bool AppWindow::start(const QString& binary, QString* why) {
     m_process.start(m_traced ? strace : binary, m_traced ? QStringList{"-f", "-qq", "-o", tracePath(), "-e",
                                                                        "trace=%file,%network", binary}
                                                          : QStringList{});
-    if (!m_process.waitForStarted(20000)) {
-        *why = QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString());
-        return false;
-    }
+    if (!m_process.waitForStarted(20000))
+        return fail(QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString()));
 
     // The display is this window's own.
     QByteArray out;
@@ -137,18 +139,13 @@ bool AppWindow::start(const QString& binary, QString* why) {
          QThread::msleep(200))
         if (xdotool(QString("search --onlyvisible --name ^Robot.Companion$").split(' '), &out))
             m_windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
-    if (m_windowId.isEmpty()) {
-        *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
-        return false;
-    }
+    if (m_windowId.isEmpty())
+        return fail(QStringLiteral("no window appeared; stderr: %1").arg(errorOutput()));
     if (xdotool({"getwindowpid", m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
     QImage window;
     for (int attempt = 0; attempt < 5 && (window = grab()).isNull(); ++attempt) QThread::msleep(200);
-    if (window.size() != QSize(1024, 768)) {
-        *why = QStringLiteral("the window is %1 by %2").arg(window.width()).arg(window.height());
-        return false;
-    }
-    return true;
+    return window.size() == QSize(1024, 768) ||
+           fail(QStringLiteral("the window is %1 by %2").arg(window.width()).arg(window.height()));
 }
 
 bool AppWindow::moveTo(QPoint pos) {

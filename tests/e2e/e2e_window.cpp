@@ -220,16 +220,6 @@ class TestEndToEnd : public QObject {
                waitFor(step + ", create view", Buttons(kCommon, {kCreateUp}));
     }
 
-    // From the main menu to the birthday page with the alarm on.
-    bool openBirthdayOn() {
-        const QRect half{45, 0, 66, 46};
-        return menuReady("menu") && m_app->click(At::Alarm.center()) && m_app->click(At::Status.center()) &&
-               m_app->click(At::BirthdayOn.center()) &&
-               waitFor("birthday on",
-                       Buttons(kCommon, {{At::BirthdayOn, kBtn1Chosen, kBtn1, half},
-                                         {At::BirthdayOff, "but_disabled_Btn01", kBtn1Chosen, half}}));
-    }
-
 private slots:
     void init() { CHECK(startApp()); }
 
@@ -323,7 +313,13 @@ private slots:
 
     void alarmWithConfirmation() {
         AppWindow& app = *m_app;
-        CHECK(openBirthdayOn());
+        const QRect half{45, 0, 66, 46};
+        CHECK(menuReady("menu"));
+        QVERIFY(app.click(At::Alarm.center()) && app.click(At::Status.center()) &&
+                app.click(At::BirthdayOn.center()));
+        WAIT_FOR("birthday on",
+                 Buttons(kCommon, {{At::BirthdayOn, kBtn1Chosen, kBtn1, half},
+                                   {At::BirthdayOff, "but_disabled_Btn01", kBtn1Chosen, half}}));
         // Done shows the confirmation page for a while, then the choose page.
         QVERIFY(app.click(At::AlarmDone.center()));
         const Scene confirmation = Scene(kCommon).picture("Pim_confirmation", {0, 0}, "jpg");
