@@ -48,33 +48,24 @@ private slots:
 
     void extremesGiveWellFormedTexts_data() {
         QTest::addColumn<QByteArray>("zone");
-        QTest::addColumn<int>("picker");
         QTest::addColumn<QTime>("startedAt"); // the time of day the application was started
+        QTest::addColumn<int>("picker");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("beyond"); // a key that tries to go past the end
-        const QTime early(0, 10), late(23, 50);
-        const struct {
-            const char* what;
-            Picker picker;
-            QTime startedAt;
-            const char* typed;
-            Qt::Key beyond;
-        } rows[] = {{"last date, started early", BirthDate, early, "9999/12/31", Qt::Key_Up},
-                    {"last date, started late", BirthDate, late, "9999/12/31", Qt::Key_Up},
-                    {"first date, started early", BirthDate, early, "1752/09/14", Qt::Key_Down},
-                    {"first date, started late", BirthDate, late, "1752/09/14", Qt::Key_Down},
-                    {"a day some zone skipped", BirthDate, late, "2011/12/30", Qt::Key_Left},
-                    {"birthday 23:59", BirthTime, early, "23/59", Qt::Key_Up},
-                    {"birthday 00:00", BirthTime, late, "00/00", Qt::Key_Down},
-                    {"wake-up 23:59", WakeupTime, early, "23/59", Qt::Key_PageUp},
-                    {"wake-up 00:00", WakeupTime, late, "00/00", Qt::Key_PageDown}};
+        const std::tuple<Picker, const char*, Qt::Key> typings[] = {
+            {BirthDate, "9999/12/31", Qt::Key_Up},   {BirthDate, "1752/09/14", Qt::Key_Down},
+            {BirthDate, "2011/12/30", Qt::Key_Left}, // a day some zone skipped
+            {BirthTime, "23/59", Qt::Key_Up},        {BirthTime, "00/00", Qt::Key_Down},
+            {WakeupTime, "23/59", Qt::Key_PageUp},   {WakeupTime, "00/00", Qt::Key_PageDown}};
         // UTC itself, west and east of it, half an hour off the hour, the far side of the date
-        // line, and the zone that skipped 2011-12-30.
+        // line, and the zone that skipped 2011-12-30; started early or late in the day.
         for (const char* zone :
              {"UTC", "America/Sao_Paulo", "Asia/Kolkata", "Pacific/Kiritimati", "Pacific/Apia"})
-            for (const auto& r : rows)
-                QTest::addRow("%s, %s", zone, r.what) << QByteArray(zone) << int(r.picker) << r.startedAt
-                                                      << QString::fromLatin1(r.typed) << int(r.beyond);
+            for (const QTime startedAt : {QTime(0, 10), QTime(23, 50)})
+                for (const auto& [picker, typed, beyond] : typings)
+                    QTest::addRow("%s, %s, %d: %s", zone, qPrintable(startedAt.toString()), picker, typed)
+                        << QByteArray(zone) << startedAt << int(picker) << QString::fromLatin1(typed)
+                        << int(beyond);
     }
 
     void extremesGiveWellFormedTexts() {
