@@ -15,9 +15,9 @@ namespace {
 
 // The one control on view that a screen reader calls `name`: the routes name controls as the
 // user sees them.
-QWidget* OnView(QWidget* screen, const QString& name) {
+QWidget* OnView(QWidget* root, const QString& name) {
     QList<QWidget*> found;
-    for (QWidget* w : screen->findChildren<QWidget*>())
+    for (QWidget* w : root->findChildren<QWidget*>())
         if (w->isVisible() && QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name) == name)
             found << w;
     return found.size() == 1 ? found.first() : nullptr;
