@@ -7,47 +7,36 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <algorithm>
 #include <csignal>
 
 namespace {
-// What a traced run may not do, judged one line of `strace -f` output at a time: open a network
-// socket, or change the file system. Reading is free; so is writing to /dev/ (device nodes, shared
-// memory), /proc/ and the allowed folders. An attempt counts even when it fails. Resumed halves,
-// signals and exits are not judged: the first half of a split call has its arguments.
-QString SideEffectOf(const QString& line, const QStringList& allowed) {
-    static const QRegularExpression call(QStringLiteral("^(?:(?:\\[pid\\s+)?\\d+\\]?\\s+)?(\\w+)\\((.*)$"));
-    static const QRegularExpression quoted(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
-    static const QRegularExpression network(QStringLiteral("^(AF_INET6?|AF_PACKET)\\b"));
-    static const QRegularExpression writing(
-        QStringLiteral("\\b(O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_APPEND)\\b"));
-    static const QStringList opening = QString("open openat openat2 creat").split(' ');
+// One line of `strace -f` output is a side effect when it opens a network socket, or opens for
+// writing or changes a path outside /dev/, /proc/ and `allowed` (a change with no path is to an
+// open file). Reading is free; an attempt counts even when it fails. Resumed halves, signals and
+// exits do not match: the first half of a split call has its arguments.
+bool IsSideEffect(const QString& line, const QString& allowed) {
+    static const QRegularExpression call("^(?:(?:\\[pid\\s+)?\\d+\\]?\\s+)?(\\w+)\\((.*)$"),
+        quoted("\"((?:[^\"\\\\]|\\\\.)*)\""), network("^AF_(INET6?|PACKET)\\b"),
+        writing("\\b(O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_APPEND)\\b");
     static const QStringList changing =
-        QString("mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 "
-                "link linkat symlink symlinkat truncate chmod fchmodat chown "
-                "lchown fchownat utime utimes utimensat mknod mknodat setxattr "
-                "lsetxattr removexattr lremovexattr")
+        QString("creat mkdir mkdirat rmdir unlink unlinkat rename renameat renameat2 link linkat symlink "
+                "symlinkat truncate chmod fchmodat chown lchown fchownat utime utimes utimensat mknod "
+                "mknodat setxattr lsetxattr removexattr lremovexattr")
             .split(' ');
     const auto m = call.match(line);
-    if (!m.hasMatch()) return {};
     const QString name = m.captured(1), args = m.captured(2);
+    if (name == "socket") return network.match(args).hasMatch();
     QStringList paths;
     for (auto it = quoted.globalMatch(args); it.hasNext();) paths << it.next().captured(1);
-    const auto forbidden = [&allowed](const QString& path) {
-        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"))) return false;
-        for (const QString& folder : allowed)
-            if (path == folder || path.startsWith(folder + QLatin1Char('/'))) return false;
-        return true;
-    };
-    if (name == QLatin1String("socket"))
-        if (const auto n = network.match(args); n.hasMatch())
-            return QStringLiteral("opens a network socket (%1)").arg(n.captured(1));
-    if (opening.contains(name) && (name == QLatin1String("creat") || writing.match(args).hasMatch()) &&
-        !paths.isEmpty() && forbidden(paths.first()))
-        return QStringLiteral("opens %1 for writing").arg(paths.first());
-    if (changing.contains(name) && paths.isEmpty()) return QStringLiteral("%1 on an open file").arg(name);
-    for (const QString& path : paths)
-        if (changing.contains(name) && forbidden(path)) return QStringLiteral("%1 %2").arg(name, path);
-    return {};
+    if (name.startsWith("open") && writing.match(args).hasMatch())
+        paths = paths.mid(0, 1);
+    else if (!changing.contains(name))
+        return false;
+    return paths.isEmpty() || std::any_of(paths.begin(), paths.end(), [&allowed](const QString& path) {
+               return !path.startsWith("/dev/") && !path.startsWith("/proc/") && path != allowed &&
+                      !path.startsWith(allowed + '/');
+           });
 }
 } // namespace
 
@@ -68,7 +57,7 @@ bool AppWindow::startServer(QString* why) {
          m_server.waitForStarted(10000) && !number.contains('\n') && !deadline.hasExpired();)
         if (m_server.waitForReadyRead(200)) number += m_server.readAllStandardOutput();
     bool ok = false;
-    m_display = QStringLiteral(":%1").arg(number.trimmed().toInt(&ok));
+    m_env.insert("DISPLAY", QStringLiteral(":%1").arg(number.trimmed().toInt(&ok)));
     // The server answers as soon as it has said its number; make sure the tools can talk to it.
     if (ok && xdotool({"getmouselocation"})) return true;
     *why =
@@ -77,15 +66,9 @@ bool AppWindow::startServer(QString* why) {
     return false;
 }
 
-QProcessEnvironment AppWindow::environment() const {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("DISPLAY", m_display);
-    return env;
-}
-
 bool AppWindow::run(const QString& program, const QStringList& args, QByteArray* output) const {
     QProcess tool;
-    tool.setProcessEnvironment(environment());
+    tool.setProcessEnvironment(m_env);
     tool.start(program, args);
     // Waiting reads the output into the process's buffer: a large screenshot cannot block the pipe.
     if (!tool.waitForFinished(30000)) {
@@ -115,22 +98,24 @@ QStringList AppWindow::sideEffects() const {
     if (!m_traced || !trace.open(QIODevice::ReadOnly)) return {};
     QStringList effects;
     while (!trace.atEnd())
-        if (const QString effect = SideEffectOf(QString::fromLocal8Bit(trace.readLine()).trimmed(),
-                                                {m_scratch.filePath("runtime")});
-            !effect.isEmpty() && !effects.contains(effect))
-            effects << effect;
+        if (const QString line = QString::fromLocal8Bit(trace.readLine()).trimmed();
+            IsSideEffect(line, m_scratch.filePath("runtime")))
+            effects << line;
     return effects;
 }
 
 bool AppWindow::start(const QString& binary, QString* why) {
     if (!startServer(why)) return false;
-    QProcessEnvironment env = environment();
+    const auto fail = [why](const QString& reason) {
+        *why = reason;
+        return false;
+    };
+    QProcessEnvironment env = m_env;
     // The tests around may run offscreen; this one needs the real X window.
     env.insert("QT_QPA_PLATFORM", "xcb");
     // A home and a runtime folder of its own: writing anywhere but the runtime folder is caught.
     const QString home = m_scratch.filePath("home"), runtime = m_scratch.filePath("runtime");
-    QDir().mkpath(home);
-    QDir().mkpath(runtime);
+    for (const QString& folder : {home, runtime}) QDir().mkpath(folder);
     QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     env.insert("HOME", home);
     env.insert("XDG_RUNTIME_DIR", runtime);
@@ -142,14 +127,11 @@ bool AppWindow::start(const QString& binary, QString* why) {
     if (m_traced) env.insert("ASAN_OPTIONS", env.value("ASAN_OPTIONS") + ":detect_leaks=0");
     m_process.setProcessEnvironment(env);
     m_process.setStandardOutputFile(QProcess::nullDevice());
-    if (m_traced)
-        m_process.start(strace, {"-f", "-qq", "-o", tracePath(), "-e", "trace=%file,%network", binary});
-    else
-        m_process.start(binary, {});
-    if (!m_process.waitForStarted(20000)) {
-        *why = QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString());
-        return false;
-    }
+    m_process.start(m_traced ? strace : binary, m_traced ? QStringList{"-f", "-qq", "-o", tracePath(), "-e",
+                                                                       "trace=%file,%network", binary}
+                                                         : QStringList{});
+    if (!m_process.waitForStarted(20000))
+        return fail(QStringLiteral("%1 does not start: %2").arg(binary, m_process.errorString()));
 
     // The display is this window's own.
     QByteArray out;
@@ -157,18 +139,13 @@ bool AppWindow::start(const QString& binary, QString* why) {
          QThread::msleep(200))
         if (xdotool(QString("search --onlyvisible --name ^Robot.Companion$").split(' '), &out))
             m_windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
-    if (m_windowId.isEmpty()) {
-        *why = QStringLiteral("no window appeared; stderr: %1").arg(errorOutput());
-        return false;
-    }
+    if (m_windowId.isEmpty())
+        return fail(QStringLiteral("no window appeared; stderr: %1").arg(errorOutput()));
     if (xdotool({"getwindowpid", m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
     QImage window;
     for (int attempt = 0; attempt < 5 && (window = grab()).isNull(); ++attempt) QThread::msleep(200);
-    if (window.size() != QSize(1024, 768)) {
-        *why = QStringLiteral("the window is %1 by %2").arg(window.width()).arg(window.height());
-        return false;
-    }
-    return true;
+    return window.size() == QSize(1024, 768) ||
+           fail(QStringLiteral("the window is %1 by %2").arg(window.width()).arg(window.height()));
 }
 
 bool AppWindow::moveTo(QPoint pos) {

@@ -37,7 +37,6 @@ public:
 
 private:
     bool startServer(QString* why);
-    QProcessEnvironment environment() const;
     // Runs an X tool to its end; false when it cannot start, times out or fails.
     bool run(const QString& program, const QStringList& args, QByteArray* output = nullptr) const;
     bool xdotool(const QStringList& args, QByteArray* output = nullptr) const {
@@ -46,7 +45,7 @@ private:
     QString tracePath() const { return m_scratch.filePath(QStringLiteral("trace.txt")); }
 
     QProcess m_server;
-    QString m_display;
+    QProcessEnvironment m_env = QProcessEnvironment::systemEnvironment(); // with the server's display
     QProcess m_process;
     QTemporaryDir m_scratch;
     bool m_traced = false;

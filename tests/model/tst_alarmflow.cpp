@@ -12,33 +12,38 @@ const QDateTime kPicked(QDate(1999, 12, 31), QTime(23, 59), QTimeZone::utc());
 
 void Do(AlarmFlow& f, const QString& a) {
     using F = AlarmFlow;
-    static const QStringList plainNames = {"bday", "wake", "bOn",  "bOff", "wOn",
-                                           "wOff", "back", "done", "timer"};
+    static const QStringList plainNames = {"bday", "wake", "bOn", "bOff", "wOn", "wOff", "back", "done"};
     static void (F::*const plain[])() = {
         &F::PressBirthdayStatus, &F::PressWakeupStatus, &F::BirthdayOn, &F::BirthdayOff, &F::WakeupOn,
-        &F::WakeupOff,           &F::BackToChoose,      &F::Done,       &F::DoneView};
+        &F::WakeupOff,           &F::BackToChoose,      &F::Done};
     static const QStringList setNames = {"setDate", "setTime", "setWake"};
     static void (F::*const set[])(const QDateTime&) = {&F::SetBirthDate, &F::SetBirthTime, &F::SetWakeupTime};
     static const QStringList editors = {"", "dateEd", "timeEd", "wakeEd"};
     if (const qsizetype i = plainNames.indexOf(a); i >= 0) return (f.*plain[i])();
     if (const qsizetype i = setNames.indexOf(a); i >= 0) return (f.*set[i])(kPicked);
     if (a.startsWith('q')) return f.ChooseFrequency(a.mid(1).toInt());
+    if (a == "timer") return void(QMetaObject::invokeMethod(const_cast<QTimer*>(f.timer()), "timeout"));
     QVERIFY(editors.indexOf(a) > 0);
     f.OpenEditor(F::Editor(editors.indexOf(a)));
 }
 
 // The whole state in one line: page[/editor], Back's target, the page flag, which alarms are
-// on (birthday, wake-up), the frequency, which On/Off pairs were pressed, and a running timer.
+// on (birthday, wake-up), the frequency, which On/Off pairs were pressed, and a running timer
+// with its interval, once.
 QString Describe(const AlarmFlow& f) {
     static const char* const pages[] = {"choose", "bday", "wake", "confirm"};
     static const char* const editors[] = {"", "/date", "/time", "/wake"};
     QString page = QString::fromLatin1(pages[int(f.page())]);
     if (f.page() == AlarmFlow::Page::Confirmation)
         page += f.confirmation() == AlarmFlow::Alarm::Wakeup ? "(wake)" : "(bday)";
+    const QTimer* t = f.timer();
+    const QString timer =
+        t->isActive() ? QString::asprintf(" timer %d ms%s", t->interval(), t->isSingleShot() ? " once" : "")
+                      : QString();
     return QString::asprintf("%s%s <%s f%d on%d%d q%d p%d%d%s", qPrintable(page), editors[int(f.editor())],
                              f.backTarget() == AlarmFlow::Back::MainMenu ? "main" : "choose",
                              f.flagBirthdayWakeup(), f.enableBirthday(), f.enableWakeup(), f.typeFrequency(),
-                             f.birthdaySwitched(), f.wakeupSwitched(), f.timer()->isActive() ? " timer" : "");
+                             f.birthdaySwitched(), f.wakeupSwitched(), qPrintable(timer));
 }
 
 } // namespace
@@ -66,8 +71,9 @@ private slots:
             "choose <main f1 on10 q0 p10");
         row("Done with the alarm off: no confirmation", "bday done", "choose <main f1 on00 q0 p00");
         row("Done confirms the birthday", "bday bOn timeEd done",
-            "confirm(bday) <choose f1 on10 q0 p10 timer");
-        row("Done confirms the wake-up alarm", "wake wOn done", "confirm(wake) <choose f2 on01 q0 p01 timer");
+            "confirm(bday) <choose f1 on10 q0 p10 timer 5000 ms once");
+        row("Done confirms the wake-up alarm", "wake wOn done",
+            "confirm(wake) <choose f2 on01 q0 p01 timer 5000 ms once");
         row("Done asks only the page's alarm", "bday bOn back wake done", "choose <main f2 on10 q0 p10");
         row("Done only on an alarm page", "bday bOn back done", "choose <main f1 on10 q0 p10");
         row("the confirmation ends on the choose page", "wake wOn done timer", "choose <main f2 on01 q0 p01");
@@ -87,7 +93,7 @@ private slots:
         QCOMPARE(Describe(f), state);
     }
 
-    // Each Set writes its own text from the picker's value and keeps the value for the picker.
+    // Each Set writes its own text from the picker's value.
     void texts_data() {
         QTest::addColumn<QString>("set");
         QTest::addColumn<QStringList>("texts"); // birthday date, birthday time, wake-up time
@@ -104,22 +110,6 @@ private slots:
         QCOMPARE((QStringList{f.formattedBirthDateString(), f.formattedBirthTimeString(),
                               f.formattedWakeupTimeString()}),
                  texts);
-        const QDateTime& held = set == "setDate"   ? f.birthDate()
-                                : set == "setTime" ? f.birthTime()
-                                                   : f.wakeupTime();
-        QCOMPARE(held, set.isEmpty() ? kMade : kPicked);
-    }
-
-    // The one test of the timer itself: five seconds, once, and its end is the choose page.
-    void confirmationTimer() {
-        AlarmFlow f(kMade);
-        for (const char* action : {"bday", "bOn", "done"}) Do(f, action);
-        const QTimer* timer = f.timer();
-        QVERIFY(timer->isActive());
-        QCOMPARE(timer->interval(), 5000);
-        QVERIFY(timer->isSingleShot());
-        QVERIFY(QMetaObject::invokeMethod(const_cast<QTimer*>(timer), "timeout"));
-        QCOMPARE(f.page(), AlarmFlow::Page::Choose);
     }
 };
 

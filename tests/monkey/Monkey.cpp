@@ -1,24 +1,135 @@
 #include "Monkey.h"
 
 #include "AppHarness.h"
-#include "AppInvariants.h"
-#include "Button.h"
 #include "Frame_Alarm.h"
-#include "Frame_Control.h"
+#include "Frame_Face.h"
+#include "Frame_Lazer.h"
+#include "Frame_MoveMent.h"
+#include "Frame_Scenario.h"
 #include "Frame_Sound.h"
-#include "NSViewS.h"
+#include "SoundPictures.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <random>
 #include <vector>
 
 namespace {
+
+// What only the running application can get wrong, whatever the inputs were: the screen on view
+// against the navigator, the timeline's views against its count, the views against their models,
+// timers left running, and the keyboard focus away from what is on view. The rules themselves are
+// the model's and are tested there. Reads only; empty when every rule holds, otherwise one line
+// per broken rule.
+QStringList AppInvariants(const Frame_Control* root) {
+    QStringList broken;
+    const auto expect = [&broken](bool holds, const QString& otherwise) {
+        if (!holds) broken << otherwise;
+        return holds;
+    };
+    const auto shown = [](const QWidget* w) { return w && !w->isHidden(); };
+    // Direct child widgets, the only ones a view lays out itself.
+    const auto children = [](const QWidget* view) {
+        return view->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size();
+    };
+
+    // In the order of ScreenId.
+    const QWidget* screens[] = {root->frmMainMenu, root->frmScenario, root->frmAlarm, root->frmMovement,
+                                root->frmSound,    root->frmFace,     root->frmLazer};
+    const int expected = int(root->navigator().shown());
+    const auto onView = std::count_if(std::begin(screens), std::end(screens), shown);
+    expect(onView == 1 && shown(screens[expected]),
+           QStringLiteral("%1 screens shown, the navigator's is %2").arg(onView).arg(expected));
+
+    // At rest every timeline item also stands where the layout puts it for the page on view.
+    const SOUNDSETCONTENT& c = root->frmSound->SoundContent;
+    const SoundTimeline& t = root->frmSound->Timeline;
+    bool inStep = t.iItemNum >= 0 && t.iItemNum <= kSoundContentItemMax &&
+                  children(c.frmSoundContent) == 3 * t.iItemNum;
+    for (qint32 i = 0; i < kSoundContentItemMax && inStep; ++i) {
+        const bool used = i < t.iItemNum;
+        inStep = (c.Item.BtnButton[i] != nullptr) == used && (c.Item.strNumber[i] != nullptr) == used &&
+                 (c.Item.imgLinkBar[i] != nullptr) == used &&
+                 (!used || c.Item.strNumber[i]->captionText() == QString::number(i + 1));
+    }
+    qint32 wrong = -1;
+    if (expect(inStep, QStringLiteral("timeline views out of step with %1 items").arg(t.iItemNum)))
+        for (qint32 i = 0; i < t.iItemNum && !t.Busy() && wrong < 0; ++i)
+            if (const SoundContentLoc loc = t.GetSoundContentLoc(i);
+                c.Item.BtnButton[i]->frame() != loc.SizeLoc ||
+                c.Item.strNumber[i]->frame() != loc.NumberText ||
+                c.Item.imgLinkBar[i]->frame() != loc.LinkBar)
+                wrong = i;
+    expect(wrong < 0,
+           QStringLiteral("timeline item %1 out of place on page %2").arg(wrong).arg(t.iPageNumber));
+
+    using Page = AlarmFlow::Page;
+    using Editor = AlarmFlow::Editor;
+    const Frame_Alarm* a = root->frmAlarm;
+    const Page page = a->flow.page();
+    const Editor editor = a->flow.editor();
+    const std::pair<const QWidget*, bool> views[] = {
+        {a->frmChooseView, page == Page::Choose},
+        {a->frmBirthdayControlView, page == Page::Birthday},
+        {a->frmWakeupControlView, page == Page::Wakeup},
+        {a->frmDoneView, page == Page::Confirmation},
+        {a->frmBirthDateEditView, editor == Editor::BirthDate},
+        {a->frmBirthTimeEditView, editor == Editor::BirthTime},
+        {a->frmWakeupTimeEditView, editor == Editor::WakeupTime}};
+    expect(std::all_of(std::begin(views), std::end(views),
+                       [&](const auto& v) { return shown(v.first) == v.second; }),
+           QStringLiteral("alarm views out of step with page %1, editor %2").arg(int(page)).arg(int(editor)));
+    for (const auto& [button, text] : {std::pair{a->BtnBirthDate, a->flow.formattedBirthDateString()},
+                                       std::pair{a->BtnBirthTime, a->flow.formattedBirthTimeString()},
+                                       std::pair{a->BtnWakeupTime, a->flow.formattedWakeupTimeString()}})
+        expect(button->captionText() == text,
+               QStringLiteral("alarm button shows \"%1\"").arg(button->captionText()));
+
+    const SoundSetBoard& board = root->frmSound->Board;
+    wrong = -1;
+    for (qint32 i = Frame_Sound::kBtnSoundFirst; i <= Frame_Sound::kBtnSoundLast && wrong < 0; ++i)
+        if (const Button* b = root->frmSound->BtnButton[i];
+            b->captionText() != QLatin1String(SoundSetName(board.SoundOf(i))) ||
+            (b->BtnImageUp.name() == QLatin1String(SoundPictures::kMark)) != board.MarkOn(i))
+            wrong = i;
+    expect(wrong < 0, QStringLiteral("sound button %1 out of step with its board").arg(wrong));
+
+    const Frame_Scenario* s = root->frmScenario;
+    wrong = -1;
+    for (qint32 r = 0; r < ScenarioList::kRows && wrong < 0; ++r)
+        if (const Button* row = s->BtnScenarioName[r];
+            shown(row) != (r < s->shownRows()) ||
+            (r < s->shownRows() &&
+             (row->captionText() != s->name(s->firstShown() + r) ||
+              (row->BtnImageUp.name() == QLatin1String("long bar")) != (r == s->indexShow))))
+            wrong = r;
+    expect(wrong < 0, QStringLiteral("row %1 out of step with the list").arg(wrong));
+    expect((s->BtnNewCreate->bEnable != 0) != s->txtScenarioName->text().isEmpty(),
+           QStringLiteral("\"Create\" enabled or not against the name field"));
+
+    // The robot's slide runs until it arrives and the menu comes alive then; a timeline scroll's
+    // timer is kept exactly while it runs.
+    const RobotSlide& slide = root->frmMainMenu->robotSlide;
+    expect(!(slide.timer && slide.timer->isActive() == slide.hasArrived()) &&
+               shown(root->frmMainMenu->BtnProgram) == slide.hasArrived(),
+           QStringLiteral("the robot's timer or the menu's buttons out of step with the robot"));
+    expect(!t.timer || t.timer->isActive(), QStringLiteral("a scroll timer is kept but stopped"));
+
+    // Typing goes to the focused widget: one that is not on view would take keys the user cannot
+    // see land, and a later Create or Set would write them.
+    if (const QWidget* focused = QApplication::focusWidget())
+        expect(!NSViewS::VisibleRect(focused).isEmpty(),
+               QStringLiteral("the keyboard focus is on %1 \"%2\", which is not on view")
+                   .arg(QString::fromLatin1(focused->metaObject()->className()), focused->accessibleName()));
+    return broken;
+}
 
 // clang-format off
 enum Kind { ClickControl, ClickAnywhere, DoubleClick, Move, Drag, StrayPress, StrayRelease, Keystroke, TypeText,

@@ -14,52 +14,26 @@ namespace {
 
 enum Picker { BirthDate, BirthTime, WakeupTime };
 
-// Time zones the user may live in: UTC itself, west and east of it, half an hour off the hour,
-// the far side of the date line, and the zone that skipped 2011-12-30.
-const char* const kZones[] = {"UTC", "America/Sao_Paulo", "Asia/Kolkata", "Pacific/Kiritimati",
-                              "Pacific/Apia"};
-
 void UseZone(const QByteArray& zone) {
     qputenv("TZ", zone);
     tzset();
 }
 
-// A picker's editor, the button showing its value and the button that sets it.
-struct Parts {
-    QDateTimeEdit* edit;
-    Button* value;
-    Button* set;
-};
-Parts PartsOf(Frame_Alarm* a, Picker p) {
-    if (p == BirthDate) return {a->txtBirthDate, a->BtnBirthDate, a->BtnBirthDateSet};
-    if (p == BirthTime) return {a->txtBirthTime, a->BtnBirthTime, a->BtnBirthTimeSet};
-    return {a->txtWakeupTime, a->BtnWakeupTime, a->BtnWakeupTimeSet};
-}
-
-// The alarm screen with the editor of one picker open, reached by clicks from the main menu.
-Frame_Alarm* OpenEditor(AppHarness& app, Picker p) {
-    if (!app.waitForMainMenuReady()) return nullptr;
-    app.click(app.root()->frmMainMenu->BtnAlarm);
+// One picker's editor opened by clicks from the main menu: the picker, the button showing its
+// value and the button that sets it.
+std::tuple<QDateTimeEdit*, Button*, Button*> OpenEditor(AppHarness& app, Picker p) {
     Frame_Alarm* a = app.root()->frmAlarm;
-    if (p == WakeupTime) {
-        app.click(a->BtnWakeupStatus);
-        app.click(a->BtnWakeupOn);
-    } else {
-        app.click(a->BtnBirthdayStatus);
-        app.click(a->BtnBirthdayOn);
-    }
-    app.click(PartsOf(a, p).value);
-    return PartsOf(a, p).edit->isVisible() ? a : nullptr;
-}
-
-// Keys go in at the window, to the picker the user clicked into: Home, then the first section
-// selected, then the digits; a section that is full hands the typing on to the next one.
-void TypeIn(AppHarness& app, const QDateTimeEdit* edit, const QString& shown) {
-    QTest::keyClick(app.handle(), Qt::Key_Home);
-    const int firstSection = static_cast<int>(edit->sectionText(edit->sectionAt(0)).size());
-    for (int i = 0; i < firstSection; ++i) QTest::keyClick(app.handle(), Qt::Key_Right, Qt::ShiftModifier);
-    for (const QChar c : shown)
-        if (c.isDigit()) QTest::keyClick(app.handle(), c.toLatin1());
+    const std::tuple<QDateTimeEdit*, Button*, Button*> parts[] = {
+        {a->txtBirthDate, a->BtnBirthDate, a->BtnBirthDateSet},
+        {a->txtBirthTime, a->BtnBirthTime, a->BtnBirthTimeSet},
+        {a->txtWakeupTime, a->BtnWakeupTime, a->BtnWakeupTimeSet}};
+    const bool wakeup = p == WakeupTime;
+    if (app.waitForMainMenuReady())
+        for (const QWidget* w :
+             {app.root()->frmMainMenu->BtnAlarm, wakeup ? a->BtnWakeupStatus : a->BtnBirthdayStatus,
+              wakeup ? a->BtnWakeupOn : a->BtnBirthdayOn, std::get<1>(parts[p])})
+            app.click(w);
+    return parts[p];
 }
 
 } // namespace
@@ -74,30 +48,24 @@ private slots:
 
     void extremesGiveWellFormedTexts_data() {
         QTest::addColumn<QByteArray>("zone");
-        QTest::addColumn<int>("picker");
         QTest::addColumn<QTime>("startedAt"); // the time of day the application was started
+        QTest::addColumn<int>("picker");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("beyond"); // a key that tries to go past the end
-        const QTime early(0, 10), late(23, 50);
-        const struct {
-            const char* what;
-            Picker picker;
-            QTime startedAt;
-            const char* typed;
-            Qt::Key beyond;
-        } rows[] = {{"last date, started early", BirthDate, early, "9999/12/31", Qt::Key_Up},
-                    {"last date, started late", BirthDate, late, "9999/12/31", Qt::Key_Up},
-                    {"first date, started early", BirthDate, early, "1752/09/14", Qt::Key_Down},
-                    {"first date, started late", BirthDate, late, "1752/09/14", Qt::Key_Down},
-                    {"a day some zone skipped", BirthDate, late, "2011/12/30", Qt::Key_Left},
-                    {"birthday 23:59", BirthTime, early, "23/59", Qt::Key_Up},
-                    {"birthday 00:00", BirthTime, late, "00/00", Qt::Key_Down},
-                    {"wake-up 23:59", WakeupTime, early, "23/59", Qt::Key_PageUp},
-                    {"wake-up 00:00", WakeupTime, late, "00/00", Qt::Key_PageDown}};
-        for (const char* zone : kZones)
-            for (const auto& r : rows)
-                QTest::addRow("%s, %s", zone, r.what) << QByteArray(zone) << int(r.picker) << r.startedAt
-                                                      << QString::fromLatin1(r.typed) << int(r.beyond);
+        const std::tuple<Picker, const char*, Qt::Key> typings[] = {
+            {BirthDate, "9999/12/31", Qt::Key_Up},   {BirthDate, "1752/09/14", Qt::Key_Down},
+            {BirthDate, "2011/12/30", Qt::Key_Left}, // a day some zone skipped
+            {BirthTime, "23/59", Qt::Key_Up},        {BirthTime, "00/00", Qt::Key_Down},
+            {WakeupTime, "23/59", Qt::Key_PageUp},   {WakeupTime, "00/00", Qt::Key_PageDown}};
+        // UTC itself, west and east of it, half an hour off the hour, the far side of the date
+        // line, and the zone that skipped 2011-12-30; started early or late in the day.
+        for (const char* zone :
+             {"UTC", "America/Sao_Paulo", "Asia/Kolkata", "Pacific/Kiritimati", "Pacific/Apia"})
+            for (const QTime startedAt : {QTime(0, 10), QTime(23, 50)})
+                for (const auto& [picker, typed, beyond] : typings)
+                    QTest::addRow("%s, %s, %d: %s", zone, qPrintable(startedAt.toString()), picker, typed)
+                        << QByteArray(zone) << startedAt << int(picker) << QString::fromLatin1(typed)
+                        << int(beyond);
     }
 
     void extremesGiveWellFormedTexts() {
@@ -111,14 +79,19 @@ private slots:
         UseZone(zone);
 
         AppHarness app;
-        Frame_Alarm* a = OpenEditor(app, Picker(picker));
-        QVERIFY(a);
-        const auto [edit, value, set] = PartsOf(a, Picker(picker));
+        const auto [edit, value, set] = OpenEditor(app, Picker(picker));
+        QVERIFY(edit->isVisible());
         // The day the application is started on, at that time of day.
         edit->setDateTime(QDateTime(QDate(2026, 11, 24), startedAt, edit->timeSpec()));
         app.click(edit);
         QVERIFY(edit->hasFocus());
-        TypeIn(app, edit, typed);
+        // Keys go in at the window: Home, the first section selected, then the digits; a section
+        // that is full hands the typing on to the next one.
+        QTest::keyClick(app.handle(), Qt::Key_Home);
+        for (qsizetype i = edit->sectionText(edit->sectionAt(0)).size(); i > 0; --i)
+            QTest::keyClick(app.handle(), Qt::Key_Right, Qt::ShiftModifier);
+        for (const QChar c : typed)
+            if (c.isDigit()) QTest::keyClick(app.handle(), c.toLatin1());
         QCOMPARE(edit->text(), typed);
         // The last section is the one being edited; going past its end changes nothing, since
         // the pickers do not wrap around.

@@ -1,21 +1,26 @@
 #pragma once
 
+#include "Button.h"
+#include "Frame_Control.h"
+#include "Frame_MainMenu.h"
+#include "NSApplicationMain.h"
+
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
 
 #include <memory>
-#include <vector>
-
-class Frame_Control;
 
 // The real application window, shown (offscreen in tests), driven only through the window the
 // way a person's mouse does it: every press, release and move goes in at window coordinates and
 // reaches whatever widget lies there.
 class AppHarness {
 public:
-    AppHarness();
-    ~AppHarness();
+    AppHarness() {
+        m_window->move(0, 0);
+        m_window->show();
+        if (!QTest::qWaitForWindowExposed(m_window.get())) qWarning("window was not exposed");
+    }
 
     QWidget* window() const { return m_window.get(); }
     QWindow* handle() const { return m_window->windowHandle(); }
@@ -41,17 +46,23 @@ public:
     void click(const QWidget* widget) { click(at(widget)); }
     void moveTo(const QWidget* widget) { moveTo(at(widget)); }
 
-    // The main menu's robot arrives after about a second; tests that start elsewhere wait for it.
-    bool waitForMainMenuReady(int timeoutMs = 5000) const;
+    // The main menu's robot arrives after about a second; tests that start elsewhere take its
+    // ticks at once (the slide's own timing is tested on the model).
+    bool waitForMainMenuReady(int timeoutMs = 5000) const {
+        RobotSlide& slide = m_root->frmMainMenu->robotSlide;
+        for (int tick = 0; tick < 1000 && !slide.hasArrived(); ++tick) slide.RobotAction();
+        return QTest::qWaitFor([this] { return m_root->frmMainMenu->BtnProgram->isVisible(); }, timeoutMs);
+    }
 
-    // The screens (direct children of the root view) not hidden, in stacking order.
-    std::vector<QWidget*> shownScreens() const;
+    // The one screen (a direct child of the root view) not hidden; null when there are more.
     QWidget* shownScreen() const {
-        const auto shown = shownScreens();
-        return shown.size() == 1 ? shown.front() : nullptr;
+        QList<QWidget*> shown;
+        for (QWidget* screen : m_root->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            if (!screen->isHidden()) shown << screen;
+        return shown.size() == 1 ? shown.first() : nullptr;
     }
 
 private:
-    std::unique_ptr<QWidget> m_window;
-    Frame_Control* m_root = nullptr;
+    std::unique_ptr<QWidget> m_window{LoadMainWindow()};
+    Frame_Control* m_root = RootView(m_window.get());
 };
