@@ -20,7 +20,9 @@ ScaledWindow::ScaledWindow(QWidget* content) {
     // Small enough for any screen, large enough that the scene stays something to look at.
     setMinimumSize(content->size() / 4);
     m_proxy = m_scene.addWidget(content);
-    m_scene.setSceneRect(m_proxy->boundingRect());
+    // Where the proxy lies: it takes the content's position, its place on the screen while it
+    // was shown there.
+    m_scene.setSceneRect(m_proxy->sceneBoundingRect());
     setScene(&m_scene);
 }
 
@@ -31,6 +33,12 @@ ScaledWindow::~ScaledWindow() {
 
 void ScaledWindow::showEvent(QShowEvent* event) {
     QGraphicsView::showEvent(event);
+    // The content is painted at full size into a cache, where only what changed is painted
+    // again, and the cache is drawn scaled: one smooth scaling per frame, not one per picture
+    // (a slide frame costs half as much). The cache has the screen's pixels: sharp pictures on a
+    // sharp screen.
+    m_proxy->setCacheMode(QGraphicsItem::ItemCoordinateCache,
+                          (m_scene.sceneRect().size() * devicePixelRatioF()).toSize());
     // Shown once the window exists, so whatever follows the content finds the window it is in.
     if (QWidget* content = m_proxy->widget()) content->show();
 }
