@@ -33,12 +33,6 @@ ScaledWindow::~ScaledWindow() {
 
 void ScaledWindow::showEvent(QShowEvent* event) {
     QGraphicsView::showEvent(event);
-    // The content is painted at full size into a cache, where only what changed is painted
-    // again, and the cache is drawn scaled: one smooth scaling per frame, not one per picture
-    // (a slide frame costs half as much). The cache has the screen's pixels: sharp pictures on a
-    // sharp screen.
-    m_proxy->setCacheMode(QGraphicsItem::ItemCoordinateCache,
-                          (m_scene.sceneRect().size() * devicePixelRatioF()).toSize());
     // Shown once the window exists, so whatever follows the content finds the window it is in.
     if (QWidget* content = m_proxy->widget()) content->show();
 }
