@@ -2,7 +2,7 @@
 // run: one plain widget that paints the same pictures and texts by hand, with no view objects at
 // all, which is the least any implementation can do to put those pixels on the screen.
 //
-//   bench_ticks [--only robot|timeline|path] [--samples N]
+//   bench_ticks [--only robot|timeline|path|scaled-robot|scaled-timeline] [--samples N]
 //
 // A tick is measured as the application runs it: the step itself, then one pass of the event
 // loop, which delivers the coalesced repaint. The timers are stopped and the steps called
@@ -20,6 +20,7 @@
 #include "NSApplicationMain.h"
 #include "PathPlacement.h"
 #include "PathTables.h"
+#include "ScaledWindow.h"
 #include "SoundContentLoc.h"
 #include "SoundSetText.h"
 
@@ -57,14 +58,22 @@ Sample Measure(const std::function<void()>& step) {
 }
 
 // The application's window, shown and painted, with the main menu's slide stopped so that no
-// tick but the measured ones runs.
+// tick but the measured ones runs. With a factor below 1 it is shown as on a screen too small for
+// it: scaled down in the scaled window.
 struct App {
     std::unique_ptr<QWidget> window = LoadMainWindow();
     Frame_Control* root = RootView(window.get());
+    std::unique_ptr<ScaledWindow> scaled;
 
-    App() {
-        window->move(0, 0);
-        window->show();
+    explicit App(qreal factor = 1.0) {
+        QWidget* top = window.get();
+        if (factor < 1.0) {
+            scaled = std::make_unique<ScaledWindow>(window.get());
+            scaled->resize((QSizeF(window->size()) * factor).toSize());
+            top = scaled.get();
+        }
+        top->move(0, 0);
+        top->show();
         Bench::PaintCounter first(window.get());
         while (first.count() == 0) QCoreApplication::processEvents();
         root->frmMainMenu->robotSlide.timer->stop();
@@ -416,6 +425,111 @@ Result PathDrawing(int samples) {
     return result;
 }
 
+// ---- The scaled window -------------------------------------------------------------------------
+
+// A screen 600 points high shows the 1024 x 768 window at this factor.
+constexpr qreal kSmallScreenFactor = 600.0 / 768.0;
+
+} // namespace
+
+// Shown scaled, a repaint takes more than one pass of the event loop: the scene gathers the
+// window's updates in a call it posts itself, and only then asks the view for its paint. A tick
+// there ends when the window has painted.
+static void UntilPainted(const Bench::PaintCounter* paints, int before) {
+    for (int pass = 0; pass < 8 && paints->count() == before; ++pass) QCoreApplication::processEvents();
+}
+
+__attribute__((noinline)) void BenchScaledRobotTick(Frame_MainMenu* menu, const Bench::PaintCounter* paints) {
+    const int before = paints->count();
+    RobotTick(menu);
+    UntilPainted(paints, before);
+}
+
+__attribute__((noinline)) void BenchScaledTimelineTick(Frame_Sound* sound, bool towardLater,
+                                                       const Bench::PaintCounter* paints) {
+    const int before = paints->count();
+    TimelineTick(sound, towardLater);
+    UntilPainted(paints, before);
+}
+
+namespace {
+
+// The same ticks in the window scaled down as on a 1024 x 600 screen, and, as the floor, in the
+// window at 1:1; both windows live side by side and tick in turn.
+std::vector<Result> ScaledWindowTicks(int samples, bool wantRobot, bool wantTimeline) {
+    Result robot{
+        "Robot slide frame, window scaled to 0.78 (floor: the window at 1:1)", "tick", {}, {}, 0, 1000};
+    Result timeline{"Timeline scroll tick, 512 items, window scaled to 0.78 (floor: the window at 1:1)",
+                    "tick",
+                    {},
+                    {},
+                    0,
+                    1000};
+    App direct, scaled(kSmallScreenFactor);
+    Frame_MainMenu* menus[2] = {scaled.root->frmMainMenu, direct.root->frmMainMenu};
+    Bench::PaintCounter paints(menus[0]);
+    auto rewind = [](Frame_MainMenu* menu) {
+        auto& slide = menu->robotSlide;
+        if (slide.y - RobotSlide::kStep > RobotSlide::kRestY) return;
+        slide.y = RobotSlide::kStartY;
+        NSRect f = menu->imgRobot->frame();
+        f.y = slide.y;
+        menu->imgRobot->setFrame(f);
+        Flush();
+    };
+    std::vector<Result> results;
+    for (int i = 0; i < 20 && wantRobot; ++i)
+        for (Frame_MainMenu* menu : menus) rewind(menu), RobotTick(menu), Flush();
+    int paintCount = 0;
+    for (int i = 0; i < samples && wantRobot; ++i) {
+        for (Frame_MainMenu* menu : menus) rewind(menu);
+        const int before = paints.count();
+        robot.measured.push_back(Measure([&] { BenchScaledRobotTick(menus[0], &paints); }));
+        paintCount += paints.count() - before;
+        robot.floor.push_back(Measure([&] { BenchRobotTick(menus[1]); }));
+    }
+    robot.paintsPerSample = samples ? double(paintCount) / samples : 0;
+    if (wantRobot) results.push_back(robot);
+    if (!wantTimeline) return results;
+
+    // Both sound screens at the end of a 512-item timeline, scrolled a page back and forth.
+    Frame_Sound* sounds[2] = {scaled.root->frmSound, direct.root->frmSound};
+    for (App* app : {&scaled, &direct}) app->showOnly(app->root->frmSound);
+    for (Frame_Sound* sound : sounds)
+        for (qint32 i = 0; i < kSoundContentItemMax; ++i) sound->Timeline.SetSoundContent(i % 36);
+    Flush();
+    Bench::PaintCounter timelinePaints(sounds[0]->SoundContent.frmSoundContent);
+    paintCount = 0;
+    int ticks = 0;
+    auto scroll = [&](qint32 page, bool measure) {
+        for (Frame_Sound* sound : sounds) {
+            sound->Timeline.SoundContentMoveToPage(page);
+            if (sound->Timeline.timer) sound->Timeline.timer->stop();
+        }
+        const bool later = page > sounds[0]->Timeline.iPageNumber;
+        while (sounds[0]->Timeline.timer) {
+            if (!measure) {
+                for (Frame_Sound* sound : sounds) TimelineTick(sound, later);
+                Flush();
+                continue;
+            }
+            const int before = timelinePaints.count();
+            timeline.measured.push_back(
+                Measure([&] { BenchScaledTimelineTick(sounds[0], later, &timelinePaints); }));
+            paintCount += timelinePaints.count() - before;
+            timeline.floor.push_back(Measure([&] { BenchTimelineTick(sounds[1], later); }));
+            ++ticks;
+        }
+        Flush();
+    };
+    scroll(41, false);
+    for (int warm = 0; warm < 2; ++warm) scroll(42, false), scroll(41, false);
+    while (ticks < samples) scroll(42, true), scroll(41, true);
+    timeline.paintsPerSample = ticks ? double(paintCount) / ticks : 0;
+    results.push_back(timeline);
+    return results;
+}
+
 void Print(const Result& r) {
     const double m = Bench::MedianCpuUs(r.measured);
     const double f = Bench::MedianCpuUs(r.floor);
@@ -444,6 +558,10 @@ int main(int argc, char** argv) {
     if (wanted("timeline"))
         for (const Result& r : TimelineScroll(samples > 0 ? samples : 230)) results.push_back(r);
     if (wanted("path")) results.push_back(PathDrawing(samples > 0 ? samples : 15));
+    if (wanted("scaled-robot") || wanted("scaled-timeline"))
+        for (const Result& r : ScaledWindowTicks(samples > 0 ? samples : 230, wanted("scaled-robot"),
+                                                 wanted("scaled-timeline")))
+            results.push_back(r);
 
     std::printf("Ticks and drawing: median CPU time per sample (process CPU, offscreen platform)\n\n");
     std::printf("| Measure | Samples | Floor: one hand-painted widget | Application | Application, worst | "

@@ -91,3 +91,6 @@ row() { # label --only bench-function floor-function samples
 row "Robot slide frame" robot BenchRobotTick BenchRobotFloorTick 100
 row "Timeline scroll tick, 512 items" timeline BenchTimelineTick BenchTimelineFloorTick 46
 row "Path drawing, 512 pieces" path BenchPathBatch BenchPathFloorBatch 3
+# The window shown scaled as on a 1024 x 600 screen, against the same window at 1:1.
+row "Robot slide frame, scaled to 0.78 (floor: 1:1)" scaled-robot BenchScaledRobotTick BenchRobotTick 100
+row "Timeline scroll tick, scaled to 0.78 (floor: 1:1)" scaled-timeline BenchScaledTimelineTick BenchTimelineTick 46

@@ -1,6 +1,7 @@
 #include "NSApplicationMain.h"
 
 #include "Frame_Control.h"
+#include "ScreenFit.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ int NSApplicationMain(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.robotcompanion.robotcompanion"),
                                                  QIcon(QStringLiteral(":/pictures/logo_main.png"))));
     std::unique_ptr<QWidget> window = LoadMainWindow();
-    window->show();
+    ScreenFit fit(window.get());
+    fit.show();
     return QApplication::exec();
 }

@@ -10,5 +10,6 @@ std::unique_ptr<QWidget> LoadMainWindow();
 // The content view of a window made by LoadMainWindow.
 Frame_Control* RootView(QWidget* window);
 
-// Creates the application, loads the interface file, shows the window and runs the event loop.
+// Creates the application, loads the interface file, shows the window whole on its screen (scaled
+// down where it does not fit) and runs the event loop.
 int NSApplicationMain(int argc, char** argv);

@@ -2,8 +2,6 @@
 
 #include "TrackingRegistry.h"
 
-#include <QApplication>
-
 NSViewS::NSViewS(const NSRect& frame) : m_frame(frame) {
     setGeometry(frame.toRect());
 }
@@ -51,9 +49,11 @@ void NSViewS::addTrackingRect(const QRect& rect, HoverOwner* owner, void* userDa
 void NSViewS::setVisible(bool visible) {
     // Qt hands the focus of a widget being hidden to the next one that takes focus, and where
     // there is none (no control here takes focus but the name field and the pickers) the hidden
-    // field keeps it and goes on taking every key typed into the window.
+    // field keeps it and goes on taking every key typed into the window. The window's own focus
+    // widget, not the application's: shown scaled, the window's widgets sit in a graphics view,
+    // which is the application's focus widget and hands the keys on to the window's.
     if (!visible) {
-        QWidget* focused = QApplication::focusWidget();
+        QWidget* focused = window()->focusWidget();
         if (focused && (focused == this || isAncestorOf(focused))) focused->clearFocus();
     }
     QWidget::setVisible(visible);

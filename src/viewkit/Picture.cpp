@@ -127,7 +127,10 @@ void Picture::draw(QPainter& painter, const QRectF& target, qreal devicePixelRat
     if (isNull() || target.isEmpty()) return;
     const QPixmap& pm = pixmap(devicePixelRatio);
     if (pm.isNull()) return;
-    const QSizeF natural = pm.deviceIndependentSize();
-    if (natural != target.size()) painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    // Smooth unless each of the picture's pixels lands on one device pixel: it is drawn at
+    // another size, or its pixels are not the device's (the sharp file on a screen of ratio
+    // 1.5), or the whole window is shown scaled. The device transform holds all three.
+    if (painter.deviceTransform().mapRect(target).size() != QSizeF(pm.size()))
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
     painter.drawPixmap(target, pm, QRectF(QPointF(0, 0), QSizeF(pm.size())));
 }

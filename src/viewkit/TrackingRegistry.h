@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QWindow>
 
+#include <optional>
 #include <vector>
 
 class HoverOwner;
@@ -14,6 +15,8 @@ class QWidget;
 // this application instead get enter and exit only for rectangles registered while they were on
 // view, fixed in window coordinates, once per registration, and never removed. The registry
 // watches the pointer on the window itself, so it sees every move whatever widget lies under it.
+// "Window coordinates" are those of the top-level widget the view belongs to: where that widget
+// is shown scaled, inside a graphics view, the pointer is mapped back into it.
 class TrackingRegistry : public QObject {
     Q_OBJECT
 public:
@@ -28,15 +31,17 @@ protected:
 
 private:
     struct Registration {
-        QPointer<QWindow> window;
-        QRect rect; // window coordinates
+        QPointer<QWidget> root; // the top-level widget the rectangle is fixed in
+        QRect rect;             // root coordinates
         HoverOwner* owner;
         QPointer<QWidget> ownerView; // the owner's view: gone with it, and hidden with it
         bool inside = false;
     };
 
-    void pointerMoved(QWindow* window, bool present, QPoint pos);
+    // Watches the window root is shown in now, and root itself, to follow it into another window.
+    void watch(QWidget* root);
+    void pointerMoved(QWindow* window, bool present, QPointF pos);
 
     std::vector<Registration> m_registrations;
-    std::vector<QPointer<QWindow>> m_watched;
+    std::vector<QPointer<QObject>> m_watched;
 };

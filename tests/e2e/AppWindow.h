@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPoint>
 #include <QProcess>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -35,6 +36,11 @@ public:
     // Everything the app wrote to stderr so far.
     QString errorOutput();
 
+    // The X screen's size, set before start (default 1280 x 1024).
+    void setScreenSize(QSize size) { m_screenSize = size; }
+    // Where the window lies on the screen; null when that cannot be told.
+    QRect geometry() const;
+
 private:
     bool startServer(QString* why);
     // Runs an X tool to its end; false when it cannot start, times out or fails.
@@ -53,4 +59,5 @@ private:
     QString m_windowId;
     QPoint m_pointer{-1, -1};
     QByteArray m_stderr;
+    QSize m_screenSize{1280, 1024};
 };

@@ -336,6 +336,45 @@ private slots:
                                   20000);
         QCOMPARE(app.errorOutput().count("BackToMainMenu"), 1);
     }
+
+    // On a screen too low for the window it shows whole, scaled down; pointing and clicking land
+    // where the buttons are seen, and Back brings the menu again.
+    void wholeOnALowScreen() {
+        m_app = std::make_unique<AppWindow>();
+        m_app->setScreenSize({1024, 600});
+        CHECK(m_app->start(QStringLiteral(ROBOT_E2E_APP), &m_failure));
+        const QRect window = m_app->geometry();
+        QCOMPARE(window.height(), 600); // as large as fits
+        QVERIFY(QRect(0, 0, 1024, 600).contains(window));
+        const qreal scale = window.height() / 768.0;
+        const auto at = [scale](QPoint p) { return (QPointF(p) * scale).toPoint(); };
+        // Shots brought back to the scene's size: smoothed twice over, a region is judged by which
+        // look it is at least twice as near to.
+        const auto seen = [](const QList<Look>& looks) -> Check {
+            return [looks](const QImage& shot) {
+                const QImage scene = shot.scaled(1024, 768, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+                for (const Look& l : looks) {
+                    const double d = Scene::Difference(scene, l.expected.image, l.region);
+                    if (d > 8 || d * 2 > Scene::Difference(scene, l.other.image, l.region))
+                        return QStringLiteral("%1 not seen (differs by %2)").arg(l.what).arg(d);
+                }
+                return QString();
+            };
+        };
+        const auto menu = [](const char* shown, const char* instead) {
+            return Buttons(kMenu, {{At::Program, shown, instead, kMenuPart}});
+        };
+        QVERIFY(m_app->moveTo(at(At::Park)));
+        WAIT_FOR("menu", {}, seen(menu("command_normal_menus", "command_focused_menus")));
+        QVERIFY(m_app->moveTo(at(At::Program.center())));
+        WAIT_FOR("program pointed at", {}, seen(menu("command_focused_menus", "command_normal_menus")));
+        QVERIFY(m_app->click(at(At::Program.center())));
+        WAIT_FOR(
+            "scenario screen", {},
+            seen(Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}})));
+        QVERIFY(m_app->click(at(At::Back.center())) && m_app->moveTo(at(At::Park)));
+        WAIT_FOR("back on the menu", {}, seen(menu("command_normal_menus", "command_focused_menus")));
+    }
 };
 
 int main(int argc, char** argv) {
