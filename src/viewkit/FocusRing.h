@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+// The keyboard focus drawn in the artwork's manner: a rounded orange outline with a soft glow,
+// a little outside the focused control's picture so that it shows on orange buttons as well as
+// on the dark backgrounds. It lies over the whole window and never takes the mouse.
+class FocusRing : public QWidget {
+    Q_OBJECT
+public:
+    explicit FocusRing(QWidget* window);
+
+    // Hugs `target` (null: none, the ring hides) and keeps hugging it as it moves or hides.
+    void follow(QWidget* target);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void place();
+
+    QPointer<QWidget> m_target;
+    QRectF m_outline; // in this widget's coordinates
+    qreal m_radius = 0;
+};

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class Button;
+class FocusRing;
+class QWidget;
+
+// The keyboard's way through the window: Tab and Shift+Tab go through the controls on view in
+// reading order, and the focus ring shows only while the user works with the keyboard (the last
+// thing done was a key that moved or pressed, not a mouse press), so the window looks the same
+// as ever to the mouse. Controls on view are those a click at their centre would reach: shown,
+// enabled, not clipped away and not covered.
+class KeyboardNavigation : public QObject {
+    Q_OBJECT
+public:
+    // Watches the application's input; called by every new Button, does its work once.
+    static void Install();
+
+    static bool KeyboardInUse() { return instance().m_keyboard; }
+
+    // The controls on view inside `scope`, in reading order.
+    static QList<QWidget*> Controls(const QWidget* scope);
+    // Whether the keyboard can reach the control now.
+    static bool TakesFocus(const QWidget* control);
+    // The focus to the first control on view inside `scope`; none there: the focus is left.
+    static void FocusFirst(const QWidget* scope);
+    // An editor just opened from the keyboard: the focus goes into its field. Opened with the
+    // mouse, the field waits for its own click, as it always did.
+    static void EnterEditor(QWidget* field);
+
+    // A press from the keyboard, refused for a button not on view.
+    static void Press(Button* button);
+    // Escape presses `back` while it is on view.
+    static void EscapePresses(Button* back);
+    // Return (or Enter) in any field of `editor` presses `button`.
+    static void ReturnPresses(QWidget* editor, Button* button);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    static KeyboardNavigation& instance();
+    void setKeyboardInUse(bool inUse);
+    void showRing();
+    bool moveFocus(QWidget* from, bool forward);
+
+    bool m_keyboard = false;
+    QPointer<FocusRing> m_ring;
+};
