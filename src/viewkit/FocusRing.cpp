@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 namespace {
 
@@ -15,11 +16,7 @@ constexpr qreal kCornerRadius = 12;
 
 } // namespace
 
-FocusRing::FocusRing(QWidget* window) : QWidget(window) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFocusPolicy(Qt::NoFocus);
-    hide();
-}
+FocusRing::FocusRing(QWidget* window) : QFocusFrame(window) {}
 
 void FocusRing::follow(QWidget* target) {
     if (m_target != target) {
@@ -54,6 +51,7 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
         if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show || type == QEvent::Hide)
             place();
     }
+    // Not the focus frame's own following, which would move the ring into the control's page.
     return QWidget::eventFilter(watched, event);
 }
 
@@ -62,16 +60,23 @@ void FocusRing::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     const QColor orange = NSColor::orangeColor();
-    // The glow: wide faint strokes under narrower ones, brightest at the outline.
+    QPainterPath outline;
+    outline.addRoundedRect(m_outline, m_radius, m_radius);
+    // The glow only outwards, so the picture inside keeps its own colours: wide faint strokes
+    // under narrower ones, brightest at the outline.
+    QPainterPath outside;
+    outside.addRect(QRectF(rect()));
+    painter.setClipPath(outside - outline);
     for (int width = 2 * kGlow; width > 2; width -= 3) {
         QColor glow = orange;
-        glow.setAlpha(40);
+        glow.setAlpha(48);
         painter.setPen(QPen(glow, width));
-        painter.drawRoundedRect(m_outline, m_radius, m_radius);
+        painter.drawPath(outline);
     }
-    // A dark line inside keeps the outline apart from an orange picture.
+    painter.setClipping(false);
+    // A dark line just inside keeps the outline apart from an orange picture.
     painter.setPen(QPen(QColor(10, 20, 50, 170), 1.5));
     painter.drawRoundedRect(m_outline.adjusted(2, 2, -2, -2), m_radius - 2, m_radius - 2);
     painter.setPen(QPen(orange, 2.5));
-    painter.drawRoundedRect(m_outline, m_radius, m_radius);
+    painter.drawPath(outline);
 }

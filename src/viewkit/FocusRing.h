@@ -1,12 +1,13 @@
 #pragma once
 
+#include <QFocusFrame>
 #include <QPointer>
-#include <QWidget>
 
 // The keyboard focus drawn in the artwork's manner: a rounded orange outline with a soft glow,
 // a little outside the focused control's picture so that it shows on orange buttons as well as
-// on the dark backgrounds. It lies over the whole window and never takes the mouse.
-class FocusRing : public QWidget {
+// on the dark backgrounds. A focus frame to Qt (so assistive technology passes over it), but one
+// that lies over the whole window rather than beside its control in a page that would clip it.
+class FocusRing : public QFocusFrame {
     Q_OBJECT
 public:
     explicit FocusRing(QWidget* window);

@@ -55,7 +55,9 @@ QList<QWidget*> KeyboardNavigation::Controls(const QWidget* scope) {
 
 void KeyboardNavigation::FocusFirst(const QWidget* scope) {
     const QList<QWidget*> controls = Controls(scope);
-    if (!controls.isEmpty()) controls.first()->setFocus(Qt::OtherFocusReason);
+    if (controls.isEmpty()) return;
+    controls.first()->setFocus(Qt::OtherFocusReason);
+    instance().showRing();
 }
 
 void KeyboardNavigation::EnterEditor(QWidget* field) {
@@ -64,6 +66,7 @@ void KeyboardNavigation::EnterEditor(QWidget* field) {
 
 void KeyboardNavigation::Press(Button* button) {
     if (!TakesFocus(button)) return;
+    instance().m_window = button->window();
     instance().setKeyboardInUse(true);
     button->click();
     // The press may have changed the pictures the ring hugs.
@@ -92,7 +95,8 @@ void KeyboardNavigation::setKeyboardInUse(bool inUse) {
 }
 
 void KeyboardNavigation::showRing() {
-    QWidget* focused = QApplication::focusWidget();
+    // The window the keys went to, active or not (with no window manager, none is).
+    QWidget* focused = m_window ? m_window->focusWidget() : QApplication::focusWidget();
     if (!m_keyboard || !focused) {
         if (m_ring) m_ring->follow(nullptr);
         return;
@@ -108,12 +112,14 @@ void KeyboardNavigation::showRing() {
 bool KeyboardNavigation::moveFocus(QWidget* from, bool forward) {
     QWidget* window = from->window();
     const QList<QWidget*> controls = Controls(window);
+    m_window = window;
     setKeyboardInUse(true);
     if (controls.isEmpty()) return true;
     const qsizetype n = controls.size();
     const qsizetype at = controls.indexOf(window->focusWidget());
     const qsizetype next = at < 0 ? (forward ? 0 : n - 1) : (at + (forward ? 1 : n - 1)) % n;
     controls[next]->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    showRing();
     return true;
 }
 
@@ -134,12 +140,10 @@ bool KeyboardNavigation::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::Move:
         // A control scrolled out of its view lets the keyboard go, as a hidden one does.
-        if (watched == QApplication::focusWidget()) {
-            auto* moved = static_cast<QWidget*>(watched);
-            if (NSViewS::VisibleRect(moved).isEmpty()) {
-                moved->clearFocus();
-                FocusFirst(moved->window());
-            }
+        if (auto* moved = qobject_cast<QWidget*>(watched);
+            moved && moved->window()->focusWidget() == moved && NSViewS::VisibleRect(moved).isEmpty()) {
+            moved->clearFocus();
+            FocusFirst(moved->window());
         }
         break;
     default:

@@ -49,4 +49,5 @@ private:
 
     bool m_keyboard = false;
     QPointer<FocusRing> m_ring;
+    QPointer<QWidget> m_window; // where the keyboard was last used
 };

@@ -8,6 +8,7 @@
 #include "Frame_Scenario.h"
 #include "Frame_Sound.h"
 
+#include <QApplication>
 #include <QTest>
 
 namespace {
@@ -37,7 +38,9 @@ QHash<QString, QWidget*> Controls(Frame_Control* r) {
             {"laser face tab", l->BtnFace},
             {"laser play", l->BtnPlay},
             {"laser Back", l->BtnBack},
-            {"alarm Back", r->frmAlarm->BtnBack}};
+            {"alarm Back", r->frmAlarm->BtnBack},
+            {"alarm Help", r->frmAlarm->BtnQuestion},
+            {"Birthday alarm", r->frmAlarm->BtnBirthdayStatus}};
 }
 
 // The screens by name, each with the button whose hover tells whether it made its registrations:
@@ -90,6 +93,28 @@ private slots:
         QTest::newRow("laser, play") << toLaser + QStringList{"laser play"} << "movement" << true;
         QTest::newRow("menu, alarm") << QStringList{"Alarm/Clock"} << "alarm" << true;
         QTest::newRow("alarm, back") << QStringList{"Alarm/Clock", "alarm Back"} << "main menu" << true;
+        // The keyboard alone: a new screen's first control has the focus, the scenario's first is
+        // "Create a new scenario", which opens the name field with the focus in it.
+        const QStringList keysToScenario{"tab to Program scenario", "key Space",
+                                         "focus Create a new scenario"};
+        const QStringList keysToName = keysToScenario + QStringList{"key Space", "focus name field"};
+        QTest::newRow("keys: space opens") << keysToScenario << "scenario" << false;
+        QTest::newRow("keys: escape") << keysToScenario + QStringList{"key Escape"} << "main menu" << true;
+        QTest::newRow("keys: shift+tab wraps to the last, back")
+            << keysToScenario + QStringList{"key Backtab", "focus scenario Back", "key Return"} << "main menu"
+            << true;
+        QTest::newRow("keys: return in the name creates")
+            << keysToName + QStringList{"type Robo", "key Return"} << "movement" << true;
+        QTest::newRow("keys: return without a name does nothing")
+            << keysToName + QStringList{"key Return"} << "scenario" << false;
+        QTest::newRow("keys: tab skips a disabled create")
+            << keysToName + QStringList{"key Tab", "focus Modify exist scenario"} << "scenario" << false;
+        QTest::newRow("keys: escape on the sound screen")
+            << toSound + QStringList{"key Escape"} << "movement" << true;
+        QTest::newRow("keys: a hidden page hands the focus on")
+            << QStringList{"tab to Alarm/Clock", "key Space", "tab to Birthday alarm", "key Space",
+                           "focus alarm Help"}
+            << "alarm" << true;
     }
 
     void routes() {
@@ -98,9 +123,31 @@ private slots:
         QFETCH(bool, hoverAnswers);
         AppHarness app;
         QVERIFY(app.waitForMainMenuReady());
+        const QHash<QString, Qt::Key> keys = {{"Tab", Qt::Key_Tab},
+                                              {"Backtab", Qt::Key_Backtab},
+                                              {"Space", Qt::Key_Space},
+                                              {"Return", Qt::Key_Return},
+                                              {"Escape", Qt::Key_Escape}};
         for (const QString& step : steps) {
+            const QString rest = step.section(u' ', 1);
             if (step.startsWith(QLatin1String("type "))) {
-                for (const QChar c : step.mid(5)) QTest::keyClick(app.handle(), c.toLatin1());
+                for (const QChar c : rest) QTest::keyClick(app.handle(), c.toLatin1());
+                continue;
+            }
+            if (step.startsWith(QLatin1String("key "))) {
+                QTest::keyClick(app.handle(), keys.value(rest));
+                continue;
+            }
+            // The focus may follow once the change that moved it is over.
+            if (step.startsWith(QLatin1String("focus "))) {
+                QTRY_COMPARE(QApplication::focusWidget(), Controls(app.root()).value(rest));
+                continue;
+            }
+            if (step.startsWith(QLatin1String("tab to "))) {
+                QWidget* target = Controls(app.root()).value(step.mid(7));
+                for (int tab = 0; tab < 10 && QApplication::focusWidget() != target; ++tab)
+                    QTest::keyClick(app.handle(), Qt::Key_Tab);
+                QCOMPARE(QApplication::focusWidget(), target);
                 continue;
             }
             QWidget* control = Controls(app.root()).value(step);

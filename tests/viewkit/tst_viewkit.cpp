@@ -4,9 +4,13 @@
 
 #include "AppHarness.h"
 #include "Button.h"
+#include "FocusRing.h"
+#include "Frame_Alarm.h"
 #include "Frame_Control.h"
+#include "Frame_Lazer.h"
 #include "Frame_MainMenu.h"
 #include "Frame_Scenario.h"
+#include "Frame_Sound.h"
 #include "NSColor.h"
 
 #include <QAccessible>
@@ -199,6 +203,48 @@ const struct {
     {"a callback that hides the button has the last word", "hideOnRelease press release", "hid", "hidden", 0},
 };
 
+// Buttons pressed in turn, then one whose picture shows it chosen and one of the same set that does
+// not; checked for an on/off or one-of-several set, selected for a list.
+const struct {
+    const char* name;
+    bool check;
+    std::function<QList<Button*>(Frame_Control*)> buttons;
+} kChoices[] = {
+    {"birthday on", true,
+     [](Frame_Control* r) {
+         Frame_Alarm* a = r->frmAlarm;
+         return QList<Button*>{a->BtnBirthdayStatus, a->BtnBirthdayOn, a->BtnBirthdayOn, a->BtnBirthdayOff};
+     }},
+    {"birthday never switched: off", true,
+     [](Frame_Control* r) {
+         Frame_Alarm* a = r->frmAlarm;
+         return QList<Button*>{a->BtnBirthdayStatus, a->BtnBirthdayOff, a->BtnBirthdayOn};
+     }},
+    {"wake-up frequency", true,
+     [](Frame_Control* r) {
+         Frame_Alarm* a = r->frmAlarm;
+         return QList<Button*>{a->BtnWakeupStatus, a->BtnWakeupOn, a->BtnWakeupFreq2, a->BtnWakeupFreq2,
+                               a->BtnWakeupFreq1};
+     }},
+    {"scenario row", false,
+     [](Frame_Control* r) {
+         Frame_Scenario* s = r->frmScenario;
+         return QList<Button*>{s->BtnModify, s->BtnScenarioName[2], s->BtnScenarioName[2],
+                               s->BtnScenarioName[0]};
+     }},
+    {"sound", false,
+     [](Frame_Control* r) {
+         Button* const* b = r->frmSound->BtnButton;
+         return QList<Button*>{b[Frame_Sound::kBtnSoundLast], b[Frame_Sound::kBtnSoundLast],
+                               b[Frame_Sound::kBtnSoundFirst]};
+     }},
+    {"robot configuration", false,
+     [](Frame_Control* r) {
+         Frame_Lazer* l = r->frmLazer;
+         return QList<Button*>{l->BtnLazer3, l->BtnLazer3, l->BtnLazer1};
+     }},
+};
+
 } // namespace
 
 class TestViewKit : public QObject {
@@ -376,6 +422,48 @@ private slots:
         iface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(app.shownScreen(), static_cast<QWidget*>(app.root()->frmScenario));
         QCOMPARE(program->look(), Button::Look::Up);
+    }
+
+    void choicesAreCheckedOrSelected_data() {
+        QTest::addColumn<int>("i");
+        for (int i = 0; i < int(std::size(kChoices)); ++i) QTest::newRow(kChoices[i].name) << i;
+    }
+    void choicesAreCheckedOrSelected() {
+        QFETCH(int, i);
+        AppHarness app;
+        QList<Button*> buttons = kChoices[i].buttons(app.root());
+        Button* const other = buttons.takeLast();
+        Button* const chosen = buttons.takeLast();
+        for (Button* press : buttons) press->click();
+        const QAccessible::State yes = QAccessible::queryAccessibleInterface(chosen)->state(),
+                                 no = QAccessible::queryAccessibleInterface(other)->state();
+        QVERIFY(kChoices[i].check ? yes.checkable && yes.checked && no.checkable && !no.checked
+                                  : yes.selectable && yes.selected && no.selectable && !no.selected);
+    }
+
+    void theWindowIsAWindowNamedByItsTitle() {
+        AppHarness app;
+        QAccessibleInterface* window = QAccessible::queryAccessibleInterface(app.window());
+        QCOMPARE(window->role(), QAccessible::Window);
+        QCOMPARE(window->text(QAccessible::Name), u"Robot Companion"_s);
+    }
+
+    // A click never takes the focus and the ring shows only after a key; the focus is told.
+    void theFocusRingShowsOnlyForTheKeyboard() {
+        Host h;
+        h.a->setFocus();
+        h.press(inBoth);
+        h.release(inBoth);
+        QVERIFY(h.a->hasFocus());
+        QVERIFY(!h.window.findChild<FocusRing*>());
+        QTest::keyClick(h.window.windowHandle(), Qt::Key_Tab);
+        QVERIFY(h.b->hasFocus());
+        const QAccessible::State state = QAccessible::queryAccessibleInterface(h.b)->state();
+        QVERIFY(state.focusable && state.focused);
+        auto* ring = h.window.findChild<FocusRing*>();
+        QVERIFY(ring && ring->isVisible() && ring->geometry().contains(h.b->geometry()));
+        h.press(outside);
+        QVERIFY(!ring->isVisible());
     }
 };
 
