@@ -60,8 +60,8 @@ void KeyboardNavigation::FocusFirst(const QWidget* scope) {
     instance().showRing();
 }
 
-void KeyboardNavigation::EnterEditor(QWidget* field) {
-    if (KeyboardInUse() && TakesFocus(field)) field->setFocus(Qt::TabFocusReason);
+void KeyboardNavigation::FocusIfKeyboardInUse(QWidget* control) {
+    if (KeyboardInUse() && TakesFocus(control)) control->setFocus(Qt::TabFocusReason);
 }
 
 void KeyboardNavigation::Press(Button* button) {

@@ -27,9 +27,10 @@ public:
     static bool TakesFocus(const QWidget* control);
     // The focus to the first control on view inside `scope`; none there: the focus is left.
     static void FocusFirst(const QWidget* scope);
-    // An editor just opened from the keyboard: the focus goes into its field. Opened with the
-    // mouse, the field waits for its own click, as it always did.
-    static void EnterEditor(QWidget* field);
+    // While the keyboard is in use, the focus goes to `control`: into an editor's field as it
+    // opens, back to what opened it as it closes. With the mouse the focus stays put, and a field
+    // waits for its own click (its caret and selection showing no sooner than they always did).
+    static void FocusIfKeyboardInUse(QWidget* control);
 
     // A press from the keyboard, refused for a button not on view.
     static void Press(Button* button);

@@ -4,6 +4,7 @@
 
 #include "AppHarness.h"
 #include "Button.h"
+#include "ButtonAccessible.h"
 #include "FocusRing.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
@@ -203,48 +204,6 @@ const struct {
     {"a callback that hides the button has the last word", "hideOnRelease press release", "hid", "hidden", 0},
 };
 
-// Buttons pressed in turn, then one whose picture shows it chosen and one of the same set that does
-// not; checked for an on/off or one-of-several set, selected for a list.
-const struct {
-    const char* name;
-    bool check;
-    std::function<QList<Button*>(Frame_Control*)> buttons;
-} kChoices[] = {
-    {"birthday on", true,
-     [](Frame_Control* r) {
-         Frame_Alarm* a = r->frmAlarm;
-         return QList<Button*>{a->BtnBirthdayStatus, a->BtnBirthdayOn, a->BtnBirthdayOn, a->BtnBirthdayOff};
-     }},
-    {"birthday never switched: off", true,
-     [](Frame_Control* r) {
-         Frame_Alarm* a = r->frmAlarm;
-         return QList<Button*>{a->BtnBirthdayStatus, a->BtnBirthdayOff, a->BtnBirthdayOn};
-     }},
-    {"wake-up frequency", true,
-     [](Frame_Control* r) {
-         Frame_Alarm* a = r->frmAlarm;
-         return QList<Button*>{a->BtnWakeupStatus, a->BtnWakeupOn, a->BtnWakeupFreq2, a->BtnWakeupFreq2,
-                               a->BtnWakeupFreq1};
-     }},
-    {"scenario row", false,
-     [](Frame_Control* r) {
-         Frame_Scenario* s = r->frmScenario;
-         return QList<Button*>{s->BtnModify, s->BtnScenarioName[2], s->BtnScenarioName[2],
-                               s->BtnScenarioName[0]};
-     }},
-    {"sound", false,
-     [](Frame_Control* r) {
-         Button* const* b = r->frmSound->BtnButton;
-         return QList<Button*>{b[Frame_Sound::kBtnSoundLast], b[Frame_Sound::kBtnSoundLast],
-                               b[Frame_Sound::kBtnSoundFirst]};
-     }},
-    {"robot configuration", false,
-     [](Frame_Control* r) {
-         Frame_Lazer* l = r->frmLazer;
-         return QList<Button*>{l->BtnLazer3, l->BtnLazer3, l->BtnLazer1};
-     }},
-};
-
 } // namespace
 
 class TestViewKit : public QObject {
@@ -391,7 +350,8 @@ private slots:
     }
 
     // Through QAccessible only: every control, on every screen and page, is a push button with a
-    // name a person can say and a press action; every text field has a name.
+    // name a person can say and a press action; every text field has a name; the window is a
+    // window named by its title.
     void everyControlIsNamed() {
         AppHarness app;
         QVERIFY(app.waitForMainMenuReady()); // the menu's Settings gets its caption on arrival
@@ -410,6 +370,9 @@ private slots:
         for (const QWidget* field : app.root()->findChildren<QDateTimeEdit*>())
             QVERIFY(!field->accessibleName().isEmpty());
         QVERIFY(!app.root()->frmScenario->txtScenarioName->accessibleName().isEmpty());
+        QAccessibleInterface* window = QAccessible::queryAccessibleInterface(app.window());
+        QCOMPARE(window->role(), QAccessible::Window);
+        QCOMPARE(window->text(QAccessible::Name), u"Robot Companion"_s);
     }
 
     // The press action does what a click does: the screen changes, the button comes back up.
@@ -424,28 +387,32 @@ private slots:
         QCOMPARE(program->look(), Button::Look::Up);
     }
 
-    void choicesAreCheckedOrSelected_data() {
-        QTest::addColumn<int>("i");
-        for (int i = 0; i < int(std::size(kChoices)); ++i) QTest::newRow(kChoices[i].name) << i;
-    }
+    // What the pictures show chosen reads as checked (a pair or set of choices) or selected (an item
+    // of a list), as the model has it.
     void choicesAreCheckedOrSelected() {
-        QFETCH(int, i);
         AppHarness app;
-        QList<Button*> buttons = kChoices[i].buttons(app.root());
-        Button* const other = buttons.takeLast();
-        Button* const chosen = buttons.takeLast();
-        for (Button* press : buttons) press->click();
-        const QAccessible::State yes = QAccessible::queryAccessibleInterface(chosen)->state(),
-                                 no = QAccessible::queryAccessibleInterface(other)->state();
-        QVERIFY(kChoices[i].check ? yes.checkable && yes.checked && no.checkable && !no.checked
-                                  : yes.selectable && yes.selected && no.selectable && !no.selected);
-    }
-
-    void theWindowIsAWindowNamedByItsTitle() {
-        AppHarness app;
-        QAccessibleInterface* window = QAccessible::queryAccessibleInterface(app.window());
-        QCOMPARE(window->role(), QAccessible::Window);
-        QCOMPARE(window->text(QAccessible::Name), u"Robot Companion"_s);
+        Frame_Control* r = app.root();
+        Frame_Alarm* a = r->frmAlarm;
+        Frame_Scenario* s = r->frmScenario;
+        Button* const* sound = r->frmSound->BtnButton;
+        Frame_Lazer* l = r->frmLazer;
+        for (Button* b : {a->BtnWakeupStatus, a->BtnWakeupOn, a->BtnWakeupFreq2, s->BtnModify,
+                          s->BtnScenarioName[2], sound[Frame_Sound::kBtnSoundLast], l->BtnLazer3})
+            b->click();
+        const std::tuple<Button*, Button*, bool> chosenOtherChecked[] = {
+            {a->BtnWakeupOn, a->BtnWakeupOff, true},
+            {a->BtnWakeupFreq2, a->BtnWakeupFreq1, true},
+            {a->BtnBirthdayOff, a->BtnBirthdayOn, true}, // never switched: off
+            {s->BtnScenarioName[2], s->BtnScenarioName[0], false},
+            {sound[Frame_Sound::kBtnSoundLast], sound[Frame_Sound::kBtnSoundFirst], false},
+            {l->BtnLazer3, l->BtnLazer1, false}};
+        for (const auto& [chosen, other, check] : chosenOtherChecked) {
+            const QAccessible::State y = QAccessible::queryAccessibleInterface(chosen)->state(),
+                                     n = QAccessible::queryAccessibleInterface(other)->state();
+            QVERIFY2(check ? y.checkable && y.checked && n.checkable && !n.checked
+                           : y.selectable && y.selected && n.selectable && !n.selected,
+                     qPrintable(ButtonAccessible::NameOf(chosen)));
+        }
     }
 
     // A click never takes the focus and the ring shows only after a key; the focus is told.

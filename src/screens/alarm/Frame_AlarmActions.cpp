@@ -206,7 +206,7 @@ void Frame_Alarm_BirthDateBtnAction(void* context, Button*) {
     if (!s) return;
     s->flow.OpenEditor(Editor::BirthDate);
     RegisterHover({s->BtnBirthDateSet});
-    KeyboardNavigation::EnterEditor(s->txtBirthDate);
+    KeyboardNavigation::FocusIfKeyboardInUse(s->txtBirthDate);
 }
 
 void Frame_Alarm_BirthTimeBtnAction(void* context, Button*) {
@@ -214,7 +214,7 @@ void Frame_Alarm_BirthTimeBtnAction(void* context, Button*) {
     if (!s) return;
     s->flow.OpenEditor(Editor::BirthTime);
     RegisterHover({s->BtnBirthTimeSet});
-    KeyboardNavigation::EnterEditor(s->txtBirthTime);
+    KeyboardNavigation::FocusIfKeyboardInUse(s->txtBirthTime);
 }
 
 void Frame_Alarm_WakeupTimeBtnAction(void* context, Button*) {
@@ -222,22 +222,29 @@ void Frame_Alarm_WakeupTimeBtnAction(void* context, Button*) {
     if (!s) return;
     s->flow.OpenEditor(Editor::WakeupTime);
     RegisterHover({s->BtnWakeupTimeSet});
-    KeyboardNavigation::EnterEditor(s->txtWakeupTime);
+    KeyboardNavigation::FocusIfKeyboardInUse(s->txtWakeupTime);
 }
 
+// Set closes the editor: the keyboard goes back to the button that opened it.
 void Frame_Alarm_BirthDateSetBtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context))
-        s->flow.SetBirthDate(Picked(s->txtBirthDate, DatePickerElements::YearMonthDay));
+    Frame_Alarm* s = Screen(context);
+    if (!s) return;
+    s->flow.SetBirthDate(Picked(s->txtBirthDate, DatePickerElements::YearMonthDay));
+    KeyboardNavigation::FocusIfKeyboardInUse(s->BtnBirthDate);
 }
 
 void Frame_Alarm_BirthTimeSetBtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context))
-        s->flow.SetBirthTime(Picked(s->txtBirthTime, DatePickerElements::HourMinute));
+    Frame_Alarm* s = Screen(context);
+    if (!s) return;
+    s->flow.SetBirthTime(Picked(s->txtBirthTime, DatePickerElements::HourMinute));
+    KeyboardNavigation::FocusIfKeyboardInUse(s->BtnBirthTime);
 }
 
 void Frame_Alarm_WakeupTimeSetBtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context))
-        s->flow.SetWakeupTime(Picked(s->txtWakeupTime, DatePickerElements::HourMinute));
+    Frame_Alarm* s = Screen(context);
+    if (!s) return;
+    s->flow.SetWakeupTime(Picked(s->txtWakeupTime, DatePickerElements::HourMinute));
+    KeyboardNavigation::FocusIfKeyboardInUse(s->BtnWakeupTime);
 }
 
 void Frame_Alarm_WakeupFreq1BtnAction(void* context, Button*) {

@@ -185,7 +185,7 @@ void Frame_Scenario_CreateBtnAction(void* context, Button*) {
     if (!screen) return;
     screen->CreateAction();
     screen->ShowPage();
-    KeyboardNavigation::EnterEditor(screen->txtScenarioName);
+    KeyboardNavigation::FocusIfKeyboardInUse(screen->txtScenarioName);
 }
 
 void Frame_Scenario_ModifyBtnAction(void* context, Button*) {
