@@ -61,7 +61,7 @@ void KeyboardNavigation::FocusFirst(const QWidget* scope) {
 }
 
 void KeyboardNavigation::FocusIfKeyboardInUse(QWidget* control) {
-    if (KeyboardInUse() && TakesFocus(control)) control->setFocus(Qt::TabFocusReason);
+    if (instance().m_keyboard && TakesFocus(control)) control->setFocus(Qt::TabFocusReason);
 }
 
 void KeyboardNavigation::Press(Button* button) {

@@ -19,12 +19,6 @@ public:
     // Watches the application's input; called by every new Button, does its work once.
     static void Install();
 
-    static bool KeyboardInUse() { return instance().m_keyboard; }
-
-    // The controls on view inside `scope`, in reading order.
-    static QList<QWidget*> Controls(const QWidget* scope);
-    // Whether the keyboard can reach the control now.
-    static bool TakesFocus(const QWidget* control);
     // The focus to the first control on view inside `scope`; none there: the focus is left.
     static void FocusFirst(const QWidget* scope);
     // While the keyboard is in use, the focus goes to `control`: into an editor's field as it
@@ -44,6 +38,10 @@ protected:
 
 private:
     static KeyboardNavigation& instance();
+    // The controls on view inside `scope`, in reading order.
+    static QList<QWidget*> Controls(const QWidget* scope);
+    // Whether the keyboard can reach the control now.
+    static bool TakesFocus(const QWidget* control);
     void setKeyboardInUse(bool inUse);
     void showRing();
     bool moveFocus(QWidget* from, bool forward);
