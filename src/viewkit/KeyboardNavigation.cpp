@@ -57,6 +57,7 @@ void KeyboardNavigation::FocusFirst(const QWidget* scope) {
     const QList<QWidget*> controls = Controls(scope);
     if (controls.isEmpty()) return;
     controls.first()->setFocus(Qt::OtherFocusReason);
+    instance().m_window = scope->window();
     instance().showRing();
 }
 
@@ -94,10 +95,15 @@ void KeyboardNavigation::setKeyboardInUse(bool inUse) {
     showRing();
 }
 
+QWidget* KeyboardNavigation::focused() const {
+    // The focus of the window it was put in, active or not (with no window manager, none is).
+    return m_window ? m_window->focusWidget() : QApplication::focusWidget();
+}
+
 void KeyboardNavigation::showRing() {
-    // The window the keys went to, active or not (with no window manager, none is).
-    QWidget* focused = m_window ? m_window->focusWidget() : QApplication::focusWidget();
-    if (!m_keyboard || !focused) {
+    QWidget* focused = this->focused();
+    // A control a page now covers (Done under the alarm's confirmation) keeps the focus unseen.
+    if (!m_keyboard || !focused || !TakesFocus(focused)) {
         if (m_ring) m_ring->follow(nullptr);
         return;
     }
@@ -140,8 +146,8 @@ bool KeyboardNavigation::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::Move:
         // A control scrolled out of its view lets the keyboard go, as a hidden one does.
-        if (auto* moved = qobject_cast<QWidget*>(watched);
-            moved && moved->window()->focusWidget() == moved && NSViewS::VisibleRect(moved).isEmpty()) {
+        // Compared by address first: a timeline scroll moves some 1500 views a tick.
+        if (QWidget* moved = focused(); moved && watched == moved && NSViewS::VisibleRect(moved).isEmpty()) {
             moved->clearFocus();
             FocusFirst(moved->window());
         }

@@ -43,10 +43,11 @@ private:
     // Whether the keyboard can reach the control now.
     static bool TakesFocus(const QWidget* control);
     void setKeyboardInUse(bool inUse);
+    QWidget* focused() const;
     void showRing();
     bool moveFocus(QWidget* from, bool forward);
 
     bool m_keyboard = false;
     QPointer<FocusRing> m_ring;
-    QPointer<QWidget> m_window; // where the keyboard was last used
+    QPointer<QWidget> m_window; // where the focus was last put or moved
 };

@@ -319,9 +319,9 @@ private slots:
         QVERIFY2(same, "the date picked in Apia is written differently from the same date in UTC");
     }
 
-    // The keyboard alone: Tab draws the focus ring (first round "Help" or "Program scenario",
-    // whichever had the focus when the window came up), and Space on "Program scenario" opens
-    // the scenario screen.
+    // The keyboard alone: Tab draws the focus ring, round "Program scenario" after one Tab or two
+    // (where the first lands depends on whether the window came up with a focus), and Space on
+    // it opens the scenario screen.
     void keyboardReachesTheScenarioScreen() {
         AppWindow& app = *m_app;
         CHECK(menuReady("menu"));
