@@ -170,6 +170,8 @@ void Frame_Scenario::SetNameCaption(qint32 row, const QString& text) {
 
 void Frame_Scenario::ApplyRowChange(const RowChange& change) {
     if (change.listEmptied) {
+        // The last row goes with the last name, as every row before it did.
+        for (Button* row : BtnScenarioName) row->setHidden(true);
         ShowPage();
         BtnModify->setHidden(!canModify());
         return;
