@@ -8,6 +8,7 @@
 #include "Frame_MoveMent.h"
 #include "Frame_Scenario.h"
 #include "Frame_Sound.h"
+#include "KeyboardNavigation.h"
 
 NSRect Frame_Control::WindowFrame() {
     return MakeNSRect(0, 0, 1024, 768);
@@ -106,4 +107,6 @@ void Frame_Control::ShowScreen(ScreenId from, ScreenId to, bool trackingOn) {
     shown->setHidden(false);
     // Registrations take the rectangle on view, so the screen is shown first.
     if (trackingOn) shown->ButtonTrackingOn();
+    // The keyboard starts over on the new screen; the ring shows only if a key brought it here.
+    KeyboardNavigation::FocusFirst(shown);
 }

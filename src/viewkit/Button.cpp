@@ -1,9 +1,12 @@
 #include "Button.h"
 
 #include "ButtonAccessible.h"
+#include "KeyboardNavigation.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 void BtnAction(void*, Button*) {}
 void BtnEntered(void*, Button*) {}
@@ -12,6 +15,13 @@ void BtnExited(void*, Button*) {}
 Button::Button(const NSRect& frame) : NSImageViewS(frame) {
     // Screen readers see buttons (and captions) through our own interfaces.
     ButtonAccessible::Install();
+    KeyboardNavigation::Install();
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void Button::SetEnable(qint8 flag) {
+    bEnable = flag;
+    setFocusPolicy(flag ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void Button::InitImage(const QString& up, const QString& move, const QString& down, const QString& ImageType,
@@ -51,6 +61,13 @@ void Button::mouseUp() {
     ButtonAction(frmControl[0], this);
 }
 
+void Button::click() {
+    // The release goes to the button that took the press, even if the press changed its screen.
+    QPointer<Button> target = this;
+    mouseDown();
+    if (target) mouseUp();
+}
+
 void Button::mouseEntered() {
     if (!bEnable) return;
     setLook(Look::Move);
@@ -79,6 +96,25 @@ const Picture& Button::shownPicture() const {
     return BtnImageUp;
 }
 
+QRectF Button::pictureRect() const {
+    const Picture& picture = shownPicture();
+    if (picture.isNull()) return rect();
+    const QSizeF natural = picture.naturalSize();
+    return QRectF(QPointF(0, (height() - natural.height()) / 2.0), natural);
+}
+
+void Button::setChoice(Choice kind, bool chosen) {
+    if (m_choice == kind && m_chosen == chosen) return;
+    const bool changed = m_chosen != chosen;
+    m_choice = kind;
+    m_chosen = chosen;
+    if (!changed) return;
+    QAccessible::State state;
+    (kind == Choice::Select ? state.selected : state.checked) = true;
+    QAccessibleStateChangeEvent event(this, state);
+    QAccessible::updateAccessibility(&event);
+}
+
 void Button::setLook(Look look) {
     m_look = look;
     update();
@@ -87,11 +123,7 @@ void Button::setLook(Look look) {
 void Button::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Picture& picture = shownPicture();
-    if (!picture.isNull()) {
-        const QSizeF natural = picture.naturalSize();
-        picture.draw(painter, QRectF(QPointF(0, (height() - natural.height()) / 2.0), natural),
-                     devicePixelRatioF());
-    }
+    if (!picture.isNull()) picture.draw(painter, pictureRect(), devicePixelRatioF());
     drawCaption(painter);
 }
 
@@ -118,6 +150,18 @@ void Button::mouseReleaseEvent(QMouseEvent* event) {
 void Button::mouseDoubleClickEvent(QMouseEvent* event) {
     // The second press of a double click is a press like any other.
     mousePressEvent(event);
+}
+
+void Button::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    if ((key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter) ||
+        (event->modifiers() & ~Qt::KeypadModifier)) {
+        NSImageViewS::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    // A key held down presses once, as a button held down clicks once.
+    if (!event->isAutoRepeat()) KeyboardNavigation::Press(this);
 }
 
 void RegisterHover(std::initializer_list<Button*> buttons) {

@@ -16,11 +16,15 @@ void BtnExited(void* context, Button* button);
 
 // The one control of the application that reacts to the mouse: three pictures (at rest, under
 // the pointer, pressed) drawn at their natural size against the left edge, an enable flag, an
-// optional caption, and three callbacks each with its own context.
+// optional caption, and three callbacks each with its own context. The keyboard reaches it by
+// Tab only (a click never takes the focus), and Space or Return press it as a click does.
 class Button : public NSImageViewS, public HoverOwner {
     Q_OBJECT
 public:
     enum class Look { Up, Move, Down };
+    // What the pictures say of a choice, for assistive technology: one of an on/off or
+    // one-of-several set (checked), or the item chosen in a list (selected).
+    enum class Choice { None, Check, Select };
 
     explicit Button(const NSRect& frame);
 
@@ -32,13 +36,16 @@ public:
         return NSImageViewS::GetImage(name, ImageType);
     }
 
-    void SetEnable(qint8 flag) { bEnable = flag; }
+    // A disabled button is skipped by Tab as well as ignoring the mouse.
+    void SetEnable(qint8 flag);
     void InitButtonAction(ButtonCallback callback, void* From);
     void InitButtonEntered(ButtonCallback callback, void* From);
     void InitButtonExited(ButtonCallback callback, void* From);
 
     void mouseDown();
     void mouseUp();
+    // A whole click: what the mouse, the keyboard and assistive technology all do to press it.
+    void click();
     void mouseEntered() override;
     void mouseExited() override;
 
@@ -48,6 +55,13 @@ public:
     Look look() const { return m_look; }
     const Picture& shownPicture() const;
     QString shownPictureName() const { return shownPicture().name(); }
+    // Where the shown picture is drawn, in the button's coordinates; the whole button if none.
+    QRectF pictureRect() const;
+
+    // Set where the screen swaps the pictures that show the choice; assistive technology is told.
+    void setChoice(Choice kind, bool chosen);
+    Choice choice() const { return m_choice; }
+    bool chosen() const { return m_chosen; }
 
     Picture BtnImageUp;
     Picture BtnImageMove;
@@ -63,11 +77,14 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void setLook(Look look);
 
     Look m_look = Look::Up;
+    Choice m_choice = Choice::None;
+    bool m_chosen = false;
 };
 
 // Hover registration of several buttons, in order; null entries are skipped.

@@ -3,7 +3,7 @@
 #include "Button.h"
 #include "CaptionAccessible.h"
 
-#include <QPointer>
+#include <QWidget>
 
 namespace {
 
@@ -12,6 +12,11 @@ QAccessibleInterface* Factory(const QString& className, QObject* object) {
         if (auto* button = qobject_cast<Button*>(object)) return new ButtonAccessible(button);
     } else if (className == QLatin1String("NSImageViewS")) {
         if (auto* view = qobject_cast<NSImageViewS*>(object)) return new CaptionAccessible(view);
+    } else if (className == QLatin1String("QWidget")) {
+        // The application's window is a plain widget made from the interface file: to assistive
+        // technology a window (a frame on AT-SPI), named by its title.
+        auto* widget = qobject_cast<QWidget*>(object);
+        if (widget && widget->isWindow()) return new QAccessibleWidget(widget, QAccessible::Window);
     }
     return nullptr;
 }
@@ -32,6 +37,18 @@ QAccessible::State ButtonAccessible::state() const {
     QAccessible::State s = QAccessibleWidget::state();
     // A disabled Button keeps Qt's enabled flag: it only ignores the mouse.
     if (!button()->bEnable) s.disabled = true;
+    switch (button()->choice()) {
+    case Button::Choice::Check:
+        s.checkable = true;
+        s.checked = button()->chosen();
+        break;
+    case Button::Choice::Select:
+        s.selectable = true;
+        s.selected = button()->chosen();
+        break;
+    case Button::Choice::None:
+        break;
+    }
     return s;
 }
 
@@ -49,11 +66,7 @@ void ButtonAccessible::doAction(const QString& actionName) {
         QAccessibleWidget::doAction(actionName);
         return;
     }
-    // A click: the press shows the down picture, the release the up picture and runs the action.
-    // The release goes to the button that took the press, even if the press changed its screen.
-    QPointer<Button> target = button();
-    target->mouseDown();
-    if (target) target->mouseUp();
+    button()->click();
 }
 
 QStringList ButtonAccessible::keyBindingsForAction(const QString&) const {

@@ -5,8 +5,9 @@
 class Button;
 
 // What assistive technologies see of a Button: a push button named by what it says or shows,
-// whose press action does exactly what a click does, so the whole application can be worked
-// without a mouse.
+// focusable while it is enabled, checked or selected where its pictures show a choice, whose
+// press action does exactly what a click does, so the whole application can be worked without
+// a mouse.
 class ButtonAccessible : public QAccessibleWidget {
 public:
     explicit ButtonAccessible(Button* button);
@@ -24,7 +25,7 @@ public:
     // A caption as read aloud: its lines joined by single spaces.
     static QString OneLine(const QString& caption);
 
-    // Makes Qt use these interfaces (and the caption views' ones); called by every new Button,
+    // Makes Qt use these interfaces (and the caption views' and the window's); called by every new Button,
     // does its work once.
     static void Install();
 

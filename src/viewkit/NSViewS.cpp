@@ -1,6 +1,9 @@
 #include "NSViewS.h"
 
+#include "KeyboardNavigation.h"
 #include "TrackingRegistry.h"
+
+#include <QTimer>
 
 NSViewS::NSViewS(const NSRect& frame) : m_frame(frame) {
     setGeometry(frame.toRect());
@@ -47,14 +50,19 @@ void NSViewS::addTrackingRect(const QRect& rect, HoverOwner* owner, void* userDa
 }
 
 void NSViewS::setVisible(bool visible) {
-    // Qt hands the focus of a widget being hidden to the next one that takes focus, and where
-    // there is none (no control here takes focus but the name field and the pickers) the hidden
-    // field keeps it and goes on taking every key typed into the window. The window's own focus
-    // widget, not the application's: shown scaled, the window's widgets sit in a graphics view,
+    // Qt hands the focus of a widget being hidden to the next one in its own chain, which knows
+    // nothing of what is covered, and where there is none the hidden field keeps it and goes on
+    // taking every key typed into the window. Once the change that hid it is over (a page is
+    // hidden before the next one is shown), the first control on view takes it. The window's own
+    // focus widget, not the application's: shown scaled, the window sits in a graphics view,
     // which is the application's focus widget and hands the keys on to the window's.
-    if (!visible) {
-        QWidget* focused = window()->focusWidget();
-        if (focused && (focused == this || isAncestorOf(focused))) focused->clearFocus();
+    QWidget* window = this->window();
+    QWidget* focused = window->focusWidget();
+    if (!visible && focused && (focused == this || isAncestorOf(focused))) {
+        focused->clearFocus();
+        QTimer::singleShot(0, window, [window] {
+            if (!window->focusWidget()) KeyboardNavigation::FocusFirst(window);
+        });
     }
     QWidget::setVisible(visible);
 }

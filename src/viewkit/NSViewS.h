@@ -34,7 +34,7 @@ public:
     // A screen makes the hover registrations of its buttons when it is shown; other views have none.
     virtual void ButtonTrackingOn() {}
 
-    // Hiding a view takes the keyboard away from any field in it.
+    // Hiding a view takes the keyboard away from any control in it, to the first one on view.
     void setVisible(bool visible) override;
 
 private:

@@ -9,6 +9,7 @@
 #include "Frame_Sound.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QTest>
 
 namespace {
@@ -58,6 +59,27 @@ private slots:
         QTest::newRow("laser, play") << toLaser + QStringList{"Play"} << "movement" << true;
         QTest::newRow("menu, alarm") << QStringList{"Alarm/Clock"} << "alarm" << true;
         QTest::newRow("alarm, back") << QStringList{"Alarm/Clock", "Back"} << "main menu" << true;
+        // The keyboard alone: a new screen's first control has the focus, the scenario's first is
+        // "Create a new scenario", which opens the name field with the focus in it.
+        const QStringList keysToScenario{"tab to Program scenario", "key Space",
+                                         "focus Create a new scenario"};
+        const QStringList keysToName = keysToScenario + QStringList{"key Space", "focus Scenario name"};
+        QTest::newRow("keys: escape") << keysToScenario + QStringList{"key Esc"} << "main menu" << true;
+        QTest::newRow("keys: shift+tab wraps to the last, back")
+            << keysToScenario + QStringList{"key Backtab", "focus Back", "key Return"} << "main menu" << true;
+        QTest::newRow("keys: return in the name creates")
+            << keysToName + QStringList{"type Robo", "key Return"} << "movement" << true;
+        QTest::newRow("keys: return without a name does nothing")
+            << keysToName + QStringList{"key Return"} << "scenario" << false;
+        QTest::newRow("keys: tab skips a disabled create")
+            << keysToName + QStringList{"key Tab", "focus Modify exist scenario"} << "scenario" << false;
+        QTest::newRow("keys: escape on the sound screen")
+            << toSound + QStringList{"key Esc"} << "movement" << true;
+        // The choose page hides its focused button: the focus goes to the first control of the page shown.
+        const QStringList alarmKeys =
+            QString("tab to Alarm/Clock,key Space,tab to Birthday alarm:Off,key Space,focus Help")
+                .split(u',');
+        QTest::newRow("keys: alarm page") << alarmKeys << "alarm" << true;
     }
 
     void routes() {
@@ -67,8 +89,25 @@ private slots:
         AppHarness app;
         QVERIFY(app.waitForMainMenuReady());
         for (const QString& step : steps) {
+            const QString rest = step.section(u' ', 1);
             if (step.startsWith(QLatin1String("type "))) {
-                for (const QChar c : step.mid(5)) QTest::keyClick(app.handle(), c.toLatin1());
+                for (const QChar c : rest) QTest::keyClick(app.handle(), c.toLatin1());
+                continue;
+            }
+            if (step.startsWith(QLatin1String("key "))) {
+                QTest::keyClick(app.handle(), QKeySequence(rest)[0].key());
+                continue;
+            }
+            // The focus may follow once the change that moved it is over.
+            if (step.startsWith(QLatin1String("focus "))) {
+                QTRY_COMPARE(QApplication::focusWidget(), OnView(app.root(), rest));
+                continue;
+            }
+            if (step.startsWith(QLatin1String("tab to "))) {
+                QWidget* target = OnView(app.root(), step.mid(7));
+                for (int tab = 0; tab < 10 && QApplication::focusWidget() != target; ++tab)
+                    QTest::keyClick(app.handle(), Qt::Key_Tab);
+                QCOMPARE(QApplication::focusWidget(), target);
                 continue;
             }
             QWidget* control = OnView(app.root(), step);

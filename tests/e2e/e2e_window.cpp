@@ -375,6 +375,28 @@ private slots:
         QVERIFY(m_app->click(at(At::Back.center())) && m_app->moveTo(at(At::Park)));
         WAIT_FOR("back on the menu", {}, seen(menu("command_normal_menus", "command_focused_menus")));
     }
+
+    // The keyboard alone: Tab draws the focus ring, round "Program scenario" after one Tab or two
+    // (where the first lands depends on whether the window came up with a focus), and Space on
+    // it opens the scenario screen.
+    void keyboardReachesTheScenarioScreen() {
+        AppWindow& app = *m_app;
+        CHECK(menuReady("menu"));
+        const QImage before = shot();
+        // The ring's top edge, a few points above the button's picture.
+        const QRect ringOnProgram(At::Program.x(), At::Program.y() - 6, At::Program.width(), 5);
+        bool ring = false;
+        for (int tab = 0; tab < 4 && !ring; ++tab) {
+            QVERIFY(app.key("Tab"));
+            const QDeadlineTimer settled(2000);
+            while (!(ring = Scene::Difference(shot(), before, ringOnProgram) > 20) && !settled.hasExpired())
+                QTest::qWait(100);
+        }
+        QVERIFY2(ring, "no focus ring came round \"Program scenario\"");
+        QVERIFY(app.key("space"));
+        WAIT_FOR("scenario screen",
+                 Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}}));
+    }
 };
 
 int main(int argc, char** argv) {

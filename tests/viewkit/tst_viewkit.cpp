@@ -4,9 +4,14 @@
 
 #include "AppHarness.h"
 #include "Button.h"
+#include "ButtonAccessible.h"
+#include "FocusRing.h"
+#include "Frame_Alarm.h"
 #include "Frame_Control.h"
+#include "Frame_Lazer.h"
 #include "Frame_MainMenu.h"
 #include "Frame_Scenario.h"
+#include "Frame_Sound.h"
 #include "NSColor.h"
 
 #include <QAccessible>
@@ -247,7 +252,8 @@ private slots:
     }
 
     // Through QAccessible only: every control, on every screen and page, is a push button with a
-    // name a person can say and a press action; every text field has a name.
+    // name a person can say and a press action; every text field has a name; the window is a
+    // window named by its title.
     void everyControlIsNamed() {
         AppHarness app;
         QVERIFY(app.waitForMainMenuReady()); // the menu's Settings gets its caption on arrival
@@ -266,6 +272,9 @@ private slots:
         for (const QWidget* field : app.root()->findChildren<QDateTimeEdit*>())
             QVERIFY(!field->accessibleName().isEmpty());
         QVERIFY(!app.root()->frmScenario->txtScenarioName->accessibleName().isEmpty());
+        QAccessibleInterface* window = QAccessible::queryAccessibleInterface(app.window());
+        QCOMPARE(window->role(), QAccessible::Window);
+        QCOMPARE(window->text(QAccessible::Name), u"Robot Companion"_s);
     }
 
     // The press action does what a click does: the screen changes, the button comes back up.
@@ -278,6 +287,52 @@ private slots:
         iface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(app.shownScreen(), static_cast<QWidget*>(app.root()->frmScenario));
         QCOMPARE(program->look(), Button::Look::Up);
+    }
+
+    // What the pictures show chosen reads as checked (a pair or set of choices) or selected (an item
+    // of a list), as the model has it.
+    void choicesAreCheckedOrSelected() {
+        AppHarness app;
+        Frame_Control* r = app.root();
+        Frame_Alarm* a = r->frmAlarm;
+        Frame_Scenario* s = r->frmScenario;
+        Button* const* sound = r->frmSound->BtnButton;
+        Frame_Lazer* l = r->frmLazer;
+        for (Button* b : {a->BtnWakeupStatus, a->BtnWakeupOn, a->BtnWakeupFreq2, s->BtnModify,
+                          s->BtnScenarioName[2], sound[Frame_Sound::kBtnSoundLast], l->BtnLazer3})
+            b->click();
+        const std::tuple<Button*, Button*, bool> chosenOtherChecked[] = {
+            {a->BtnWakeupOn, a->BtnWakeupOff, true},
+            {a->BtnWakeupFreq2, a->BtnWakeupFreq1, true},
+            {a->BtnBirthdayOff, a->BtnBirthdayOn, true}, // never switched: off
+            {s->BtnScenarioName[2], s->BtnScenarioName[0], false},
+            {sound[Frame_Sound::kBtnSoundLast], sound[Frame_Sound::kBtnSoundFirst], false},
+            {l->BtnLazer3, l->BtnLazer1, false}};
+        for (const auto& [chosen, other, check] : chosenOtherChecked) {
+            const QAccessible::State y = QAccessible::queryAccessibleInterface(chosen)->state(),
+                                     n = QAccessible::queryAccessibleInterface(other)->state();
+            QVERIFY2(check ? y.checkable && y.checked && n.checkable && !n.checked
+                           : y.selectable && y.selected && n.selectable && !n.selected,
+                     qPrintable(ButtonAccessible::NameOf(chosen)));
+        }
+    }
+
+    // A click never takes the focus and the ring shows only after a key; the focus is told.
+    void theFocusRingShowsOnlyForTheKeyboard() {
+        Host h;
+        h.a->setFocus();
+        h.press(inBoth);
+        h.release(inBoth);
+        QVERIFY(h.a->hasFocus());
+        QVERIFY(!h.window.findChild<FocusRing*>());
+        QTest::keyClick(h.window.windowHandle(), Qt::Key_Tab);
+        QVERIFY(h.b->hasFocus());
+        const QAccessible::State state = QAccessible::queryAccessibleInterface(h.b)->state();
+        QVERIFY(state.focusable && state.focused);
+        auto* ring = h.window.findChild<FocusRing*>();
+        QVERIFY(ring && ring->isVisible() && ring->geometry().contains(h.b->geometry()));
+        h.press(outside);
+        QVERIFY(!ring->isVisible());
     }
 };
 

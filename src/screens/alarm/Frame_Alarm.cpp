@@ -2,6 +2,7 @@
 
 #include "DatePickerElements.h"
 #include "EntryFieldStyle.h"
+#include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 
@@ -68,6 +69,7 @@ Frame_Alarm::Frame_Alarm(const NSRect& frame) : NSViewS(frame), flow(WallClockNo
     InitView();
     InitAlarmInterWorking();
     BtnDone->InitButtonAction(Frame_Alarm_DoneBtnAction, this);
+    KeyboardNavigation::EscapePresses(BtnBack);
     connect(&flow, &AlarmFlow::changed, this, &Frame_Alarm::Refresh);
     Refresh();
 }
@@ -127,6 +129,7 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
     AddSubview(editor, picker);
 
     Layout::Build(editor, {Btn01(&setButton, 257, 23, "normal_Btn01", "Set")});
+    KeyboardNavigation::ReturnPresses(editor, setButton);
 }
 
 void Frame_Alarm::InitBirthDateEditView() {

@@ -1,6 +1,7 @@
 #include "Frame_Alarm.h"
 
 #include "DatePickerElements.h"
+#include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "NSLog.h"
@@ -53,6 +54,8 @@ void SetOnOffLooks(Button* on, Button* off, bool onChosen, bool switched) {
     const char* const disabled = "but_disabled_Btn01";
     SetUp(on, onChosen ? selected : switched ? disabled : "but_normal_Btn01", "but_over_Btn01", selected);
     SetUp(off, onChosen ? disabled : selected, "but_over_Btn01", selected);
+    on->setChoice(Button::Choice::Check, onChosen);
+    off->setChoice(Button::Choice::Check, !onChosen);
 }
 
 // Set: the picker's value as it stands, shown with the elements its button writes.
@@ -116,9 +119,12 @@ void Frame_Alarm::Refresh() {
     SetOnOffLooks(BtnBirthdayOn, BtnBirthdayOff, flow.enableBirthday(), flow.birthdaySwitched());
     SetOnOffLooks(BtnWakeupOn, BtnWakeupOff, flow.enableWakeup(), true);
     Button* const frequencies[] = {BtnWakeupFreq1, BtnWakeupFreq2, BtnWakeupFreq3};
-    for (qint32 i = 0; i < 3; ++i)
-        SetUp(frequencies[i], i == flow.typeFrequency() ? "but_selected_Btn02" : "but_disabled_Btn02",
-              "but_over_Btn02", "but_selected_Btn02");
+    for (qint32 i = 0; i < 3; ++i) {
+        const bool chosen = i == flow.typeFrequency();
+        SetUp(frequencies[i], chosen ? "but_selected_Btn02" : "but_disabled_Btn02", "but_over_Btn02",
+              "but_selected_Btn02");
+        frequencies[i]->setChoice(Button::Choice::Check, chosen);
+    }
 }
 
 void Frame_Alarm::InitAlarmInterWorking() {
@@ -200,6 +206,7 @@ void Frame_Alarm_BirthDateBtnAction(void* context, Button*) {
     if (!s) return;
     s->flow.OpenEditor(Editor::BirthDate);
     RegisterHover({s->BtnBirthDateSet});
+    KeyboardNavigation::FocusIfKeyboardInUse(s->txtBirthDate);
 }
 
 void Frame_Alarm_BirthTimeBtnAction(void* context, Button*) {
@@ -207,6 +214,7 @@ void Frame_Alarm_BirthTimeBtnAction(void* context, Button*) {
     if (!s) return;
     s->flow.OpenEditor(Editor::BirthTime);
     RegisterHover({s->BtnBirthTimeSet});
+    KeyboardNavigation::FocusIfKeyboardInUse(s->txtBirthTime);
 }
 
 void Frame_Alarm_WakeupTimeBtnAction(void* context, Button*) {
@@ -214,21 +222,29 @@ void Frame_Alarm_WakeupTimeBtnAction(void* context, Button*) {
     if (!s) return;
     s->flow.OpenEditor(Editor::WakeupTime);
     RegisterHover({s->BtnWakeupTimeSet});
+    KeyboardNavigation::FocusIfKeyboardInUse(s->txtWakeupTime);
 }
 
+// Set closes the editor: the keyboard goes back to the button that opened it.
 void Frame_Alarm_BirthDateSetBtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context))
-        s->flow.SetBirthDate(Picked(s->txtBirthDate, DatePickerElements::YearMonthDay));
+    Frame_Alarm* s = Screen(context);
+    if (!s) return;
+    s->flow.SetBirthDate(Picked(s->txtBirthDate, DatePickerElements::YearMonthDay));
+    KeyboardNavigation::FocusIfKeyboardInUse(s->BtnBirthDate);
 }
 
 void Frame_Alarm_BirthTimeSetBtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context))
-        s->flow.SetBirthTime(Picked(s->txtBirthTime, DatePickerElements::HourMinute));
+    Frame_Alarm* s = Screen(context);
+    if (!s) return;
+    s->flow.SetBirthTime(Picked(s->txtBirthTime, DatePickerElements::HourMinute));
+    KeyboardNavigation::FocusIfKeyboardInUse(s->BtnBirthTime);
 }
 
 void Frame_Alarm_WakeupTimeSetBtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context))
-        s->flow.SetWakeupTime(Picked(s->txtWakeupTime, DatePickerElements::HourMinute));
+    Frame_Alarm* s = Screen(context);
+    if (!s) return;
+    s->flow.SetWakeupTime(Picked(s->txtWakeupTime, DatePickerElements::HourMinute));
+    KeyboardNavigation::FocusIfKeyboardInUse(s->BtnWakeupTime);
 }
 
 void Frame_Alarm_WakeupFreq1BtnAction(void* context, Button*) {

@@ -1,5 +1,6 @@
 #include "Frame_Lazer.h"
 
+#include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "LazerPicture.h"
 #include "NSColor.h"
@@ -59,6 +60,13 @@ void Frame_Lazer::InitView() {
                         });
 }
 
+void Frame_Lazer::ShowLazerType() {
+    imgLazerType->InitImage(LazerPicture::Name(LazerType), LazerPicture::kType, LazerPicture::kWidth,
+                            LazerPicture::kHeight, this);
+    Button* const configurations[] = {BtnLazer1, BtnLazer2, BtnLazer3};
+    for (qint32 i = 0; i < 3; ++i) configurations[i]->setChoice(Button::Choice::Select, i == LazerType);
+}
+
 void Frame_Lazer::ButtonTrackingOn() {
     RegisterHover(
         {BtnMoveMent, BtnSound, BtnLazer, BtnFace, BtnPlay, BtnLazer1, BtnLazer2, BtnLazer3, BtnBack});
@@ -73,6 +81,8 @@ void Frame_Lazer::InitInterWorking() {
     BtnLazer1->InitButtonAction(Frame_Lazer_BtnLazer1BtnAcion, this);
     BtnLazer2->InitButtonAction(Frame_Lazer_BtnLazer2BtnAcion, this);
     BtnLazer3->InitButtonAction(Frame_Lazer_BtnLazer3BtnAcion, this);
+    KeyboardNavigation::EscapePresses(BtnBack);
+    ShowLazerType();
     // BtnLazer keeps the do-nothing action: pressing this screen's own tab only flickers it.
 }
 
@@ -82,8 +92,7 @@ void ChooseLazerType(void* context, qint32 type) {
     auto* screen = static_cast<Frame_Lazer*>(context);
     if (!screen) return;
     screen->LazerType = type;
-    screen->imgLazerType->InitImage(LazerPicture::Name(screen->LazerType), LazerPicture::kType,
-                                    LazerPicture::kWidth, LazerPicture::kHeight, screen);
+    screen->ShowLazerType();
 }
 
 } // namespace

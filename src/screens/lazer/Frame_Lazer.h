@@ -4,7 +4,8 @@
 #include "FRAMESRECORD.h"
 
 // The page on which the user says which of the three robot configurations was built. The choice
-// shows only in this page's large picture; nothing else reads it.
+// shows in this page's large picture (and to assistive technology, as the selected button);
+// nothing else reads it.
 class Frame_Lazer : public NSViewS {
     Q_OBJECT
 public:
@@ -14,6 +15,8 @@ public:
     // again after the showing, since a registration made while hidden never fires.
     void ButtonTrackingOn() override;
     void InitInterWorking();
+    // The large picture and the selected button of the configuration chosen.
+    void ShowLazerType();
 
     NSImageViewS* imgBackGround = nullptr;
     NSImageViewS* txtSiteTitle = nullptr;

@@ -1,5 +1,6 @@
 #include "Frame_MoveMent.h"
 
+#include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "PathTables.h"
@@ -104,6 +105,7 @@ void Frame_MoveMent::ButtonInit() {
 void Frame_MoveMent::InitInterWorking() {
     BtnSound->InitButtonAction(Frame_Movement_SoundBtnAcion, this);
     BtnBack->InitButtonAction(Frame_Movement_BackBtnAcion, this);
+    KeyboardNavigation::EscapePresses(BtnBack);
     BtnLazer->InitButtonAction(Frame_Movement_LazerBtnAcion, this);
     for (const Brick& brick : kBricks) (this->*brick.field)->InitButtonAction(brick.action, this);
 }

@@ -1,5 +1,6 @@
 #include "Frame_Scenario.h"
 
+#include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "ScenarioNotify.h"
@@ -60,6 +61,7 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
     BtnCreate->InitButtonAction(Frame_Scenario_CreateBtnAction, this);
     BtnModify->InitButtonAction(Frame_Scenario_ModifyBtnAction, this);
     BtnBack->InitButtonAction(Frame_Scenario_BackBtnAction, this);
+    KeyboardNavigation::EscapePresses(BtnBack);
 
     InitView();
     ButtonTrackingOn();
@@ -103,6 +105,7 @@ void Frame_Scenario::InitCreateScenarioView() {
                     .caption = {"Create", NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16}}});
     BtnNewCreate->InitButtonAction(Frame_Scenario_GoMoveMentBtnAction, this);
     BtnNewCreate->SetEnable(bCreateEnabled ? 1 : 0);
+    KeyboardNavigation::ReturnPresses(frmCreateScenarioView, BtnNewCreate);
 }
 
 void Frame_Scenario::InitLoadScenarioView() {
@@ -116,6 +119,7 @@ void Frame_Scenario::InitLoadScenarioView() {
             frmLoadScenarioView,
             {.frame = MakeNSRect(0, 36 * r, 414, 39), .up = bar, .move = bar, .down = bar});
         SetNameCaption(r, name(firstShown() + r));
+        BtnScenarioName[r]->setChoice(Button::Choice::Select, r == indexShow);
         BtnScenarioName[r]->RegisterHover();
     }
 
@@ -154,6 +158,7 @@ void Frame_Scenario::MarkRow(qint32 row) {
         const QString bar = r == row ? QString::fromLatin1(kHighlightBar) : QString();
         BtnScenarioName[r]->InitImage(bar, bar, bar, r == row ? QStringLiteral("png") : QString(),
                                       frmLoadScenarioView);
+        BtnScenarioName[r]->setChoice(Button::Choice::Select, r == row);
     }
 }
 
@@ -165,6 +170,8 @@ void Frame_Scenario::SetNameCaption(qint32 row, const QString& text) {
 
 void Frame_Scenario::ApplyRowChange(const RowChange& change) {
     if (change.listEmptied) {
+        // The last row goes with the last name, as every row before it did.
+        for (Button* row : BtnScenarioName) row->setHidden(true);
         ShowPage();
         BtnModify->setHidden(!canModify());
         return;
@@ -180,6 +187,7 @@ void Frame_Scenario_CreateBtnAction(void* context, Button*) {
     if (!screen) return;
     screen->CreateAction();
     screen->ShowPage();
+    KeyboardNavigation::FocusIfKeyboardInUse(screen->txtScenarioName);
 }
 
 void Frame_Scenario_ModifyBtnAction(void* context, Button*) {

@@ -1,5 +1,6 @@
 #include "Frame_Sound.h"
 
+#include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
 #include "SoundPictures.h"
@@ -86,6 +87,7 @@ void Frame_Sound::ButtonInit() {
                                          .move = pictures.over,
                                          .down = pictures.over,
                                          .caption = SoundPictures::Caption(Board.SoundOf(i))});
+        b[i]->setChoice(Button::Choice::Select, Board.MarkOn(i));
     }
 
     const Layout::Caption erase{"Erase", NSColor::grayColor(), MakeNSRect(22, 11, 46, 18), 15};
@@ -116,6 +118,7 @@ void Frame_Sound::InitInterWorking() {
 
     BtnButton[kBtnMoveMent]->InitButtonAction(Frame_Sound_MoveMentBtnAcion, this);
     BtnButton[kBtnBack]->InitButtonAction(Frame_Sound_BackBtnAcion, this);
+    KeyboardNavigation::EscapePresses(BtnButton[kBtnBack]);
     BtnButton[kBtnLazer]->InitButtonAction(Frame_Sound_LazerBtnAcion, this);
     for (qint32 i = kBtnSoundFirst; i <= kBtnSoundLast; ++i)
         BtnButton[i]->InitButtonAction(kSoundActions[i - kBtnSoundFirst], this);

@@ -31,6 +31,7 @@ void Frame_Sound::SoundSetImg() {
         if (!SoundSetBoard::IsSoundButton(i) || !BtnButton[i]) continue;
         const SoundPictures pictures = SoundPictures::Of(Board.MarkOn(i));
         BtnButton[i]->InitImage(pictures.up, pictures.over, pictures.over, "png", this);
+        BtnButton[i]->setChoice(Button::Choice::Select, Board.MarkOn(i));
     }
 }
 
