@@ -6,8 +6,25 @@
 #include "ReadingOrder.h"
 
 #include <QApplication>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
 #include <QKeyEvent>
 #include <QShortcut>
+
+namespace {
+
+// Shown scaled, the window is a graphics view that holds the real window through a proxy and
+// hands the keys on to it: the keyboard moves through that window, not the view.
+QWidget* KeysGoTo(QWidget* widget) {
+    auto* view = qobject_cast<QGraphicsView*>(widget->window());
+    if (!view || !view->scene()) return widget;
+    for (QGraphicsItem* item : view->scene()->items())
+        if (auto* proxy = dynamic_cast<QGraphicsProxyWidget*>(item); proxy && proxy->widget())
+            return proxy->widget();
+    return widget;
+}
+
+} // namespace
 
 KeyboardNavigation& KeyboardNavigation::instance() {
     // Owned by the application, so a new application gets a new one.
@@ -142,7 +159,8 @@ bool KeyboardNavigation::eventFilter(QObject* watched, QEvent* event) {
         if (!tab || !widget || widget->window()->windowType() == Qt::Popup ||
             (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
             break;
-        return moveFocus(widget, key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier));
+        return moveFocus(KeysGoTo(widget),
+                         key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier));
     }
     case QEvent::Move:
         // A control scrolled out of its view lets the keyboard go, as a hidden one does.
