@@ -374,28 +374,39 @@ private slots:
             seen(Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}})));
         QVERIFY(m_app->click(at(At::Back.center())) && m_app->moveTo(at(At::Park)));
         WAIT_FOR("back on the menu", {}, seen(menu("command_normal_menus", "command_focused_menus")));
+        // The keys reach the window the view holds.
+        CHECK(tabUntilRingOnProgram(scale));
+        QVERIFY(m_app->key("space"));
+        WAIT_FOR(
+            "scenario screen by keys", {},
+            seen(Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}})));
     }
 
     // The keyboard alone: Tab draws the focus ring, round "Program scenario" after one Tab or two
     // (where the first lands depends on whether the window came up with a focus), and Space on
     // it opens the scenario screen.
     void keyboardReachesTheScenarioScreen() {
-        AppWindow& app = *m_app;
         CHECK(menuReady("menu"));
-        const QImage before = shot();
-        // The ring's top edge, a few points above the button's picture.
-        const QRect ringOnProgram(At::Program.x(), At::Program.y() - 6, At::Program.width(), 5);
-        bool ring = false;
-        for (int tab = 0; tab < 4 && !ring; ++tab) {
-            QVERIFY(app.key("Tab"));
-            const QDeadlineTimer settled(2000);
-            while (!(ring = Scene::Difference(shot(), before, ringOnProgram) > 20) && !settled.hasExpired())
-                QTest::qWait(100);
-        }
-        QVERIFY2(ring, "no focus ring came round \"Program scenario\"");
-        QVERIFY(app.key("space"));
+        CHECK(tabUntilRingOnProgram(1.0));
+        QVERIFY(m_app->key("space"));
         WAIT_FOR("scenario screen",
                  Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}}));
+    }
+
+private:
+    // Tab until the focus ring shows round "Program scenario", in a window scaled by `scale`.
+    bool tabUntilRingOnProgram(qreal scale) {
+        const QImage before = shot();
+        // The ring's top edge, a few points above the button's picture.
+        const QRectF ringTop(At::Program.x(), At::Program.y() - 6, At::Program.width(), 5);
+        const QRect region = QTransform::fromScale(scale, scale).mapRect(ringTop).toRect();
+        for (int tab = 0; tab < 4; ++tab) {
+            if (!m_app->key("Tab")) return false;
+            for (const QDeadlineTimer settled(2000); !settled.hasExpired(); QTest::qWait(100))
+                if (Scene::Difference(shot(), before, region) > 20 * scale) return true;
+        }
+        m_failure = "no focus ring came round \"Program scenario\"";
+        return false;
     }
 };
 
