@@ -150,6 +150,8 @@ const char *const kMark = "but_disabled_Btn01_1", *const kBtn1 = "but_normal_Btn
                   *const kBtn1Chosen = "but_selected_Btn01";
 
 const Button kStatus{At::Status, "but_normal_Btn03", nullptr, {210, 0, 116, 46}};
+// "Create a new scenario" shown: the scenario screen is on view.
+const Button kScenarioShown{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}};
 const Button kCreateUp{At::CreateNamed, kBtn1, "but_over_Btn01", {75, 0, 36, 46}};
 
 // A further check of a screenshot: empty when it holds, else what is wrong.
@@ -213,9 +215,7 @@ class TestEndToEnd : public QObject {
 
     // From the scenario screen to its name field.
     bool openCreateView(const QString& step) {
-        return waitFor(
-                   step,
-                   Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}})) &&
+        return waitFor(step, Buttons(kCommon, {kScenarioShown})) &&
                m_app->click(At::CreateScenario.center()) &&
                waitFor(step + ", create view", Buttons(kCommon, {kCreateUp}));
     }
@@ -369,17 +369,13 @@ private slots:
         QVERIFY(m_app->moveTo(at(At::Program.center())));
         WAIT_FOR("program pointed at", {}, seen(menu("command_focused_menus", "command_normal_menus")));
         QVERIFY(m_app->click(at(At::Program.center())));
-        WAIT_FOR(
-            "scenario screen", {},
-            seen(Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}})));
+        WAIT_FOR("scenario screen", {}, seen(Buttons(kCommon, {kScenarioShown})));
         QVERIFY(m_app->click(at(At::Back.center())) && m_app->moveTo(at(At::Park)));
         WAIT_FOR("back on the menu", {}, seen(menu("command_normal_menus", "command_focused_menus")));
         // The keys reach the window the view holds.
         CHECK(tabUntilRingOnProgram(scale));
         QVERIFY(m_app->key("space"));
-        WAIT_FOR(
-            "scenario screen by keys", {},
-            seen(Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}})));
+        WAIT_FOR("scenario screen by keys", {}, seen(Buttons(kCommon, {kScenarioShown})));
     }
 
     // The keyboard alone: Tab draws the focus ring, round "Program scenario" after one Tab or two
@@ -389,8 +385,7 @@ private slots:
         CHECK(menuReady("menu"));
         CHECK(tabUntilRingOnProgram(1.0));
         QVERIFY(m_app->key("space"));
-        WAIT_FOR("scenario screen",
-                 Buttons(kCommon, {{At::CreateScenario, "but_normal_Btn03", nullptr, {235, 0, 91, 46}}}));
+        WAIT_FOR("scenario screen", Buttons(kCommon, {kScenarioShown}));
     }
 
 private:
