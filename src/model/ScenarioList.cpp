@@ -1,15 +1,19 @@
 #include "ScenarioList.h"
 
-void ScenarioList::Fill() {
-    indexChoose = 0;
-    indexShow = 0;
+ScenarioList::ScenarioList(QObject* parent) : QObject(parent) {
     for (qint32 i = 0; i < kSlots; ++i) txtLoadScenarioName[i] = QString::number(i);
-    numOfList = kSlots;
 }
 
-bool ScenarioList::NameChanged(const QString& text) {
-    bCreateEnabled = !text.isEmpty();
-    return bCreateEnabled;
+void ScenarioList::OpenPage(Page page) {
+    if (m_page == page) return;
+    m_page = page;
+    emit changed();
+}
+
+void ScenarioList::NameChanged(const QString& text) {
+    if (m_typedName == text) return;
+    m_typedName = text;
+    emit changed();
 }
 
 QString ScenarioList::name(qint32 index) const {
@@ -17,89 +21,51 @@ QString ScenarioList::name(qint32 index) const {
     return txtLoadScenarioName[index];
 }
 
-bool ScenarioList::isConsistent() const {
-    if (numOfList < 1 || numOfList > kSlots) return false;
-    const qint32 rows = shownRows();
-    return indexChoose >= 0 && indexChoose < numOfList && indexShow >= 0 && indexShow < rows &&
-           firstShown() >= 0 && firstShown() + rows <= numOfList;
+void ScenarioList::ChooseRow(qint32 row) {
+    if (row < 0 || row >= shownRows()) return;
+    m_indexChoose += row - m_indexShow;
+    m_indexShow = row;
+    // Pressing the chosen row again marks it again.
+    emit changed();
 }
 
-ScenarioList::RowChange ScenarioList::ChooseRow(qint32 row) {
-    if (!isConsistent() || row < 0 || row >= shownRows()) return {};
-    indexChoose += row - indexShow;
-    indexShow = row;
-    return {.markRow = row};
+void ScenarioList::Up() {
+    if (m_numOfList == 0 || m_indexChoose == 0) return;
+    --m_indexChoose;
+    // From the top row the list scrolls back by one name.
+    m_indexShow = qMax(m_indexShow - 1, 0);
+    emit changed();
 }
 
-ScenarioList::RowChange ScenarioList::Up() {
-    if (!isConsistent()) return {};
-    --indexShow;
-    if (indexChoose == 0) {
-        indexShow = 0;
-        return {};
-    }
-    --indexChoose;
-    if (indexShow > 0) return {.markRow = indexShow};
-    // From the top row the list scrolls back by one name; from row 1 the captions are written
-    // again as they were.
-    indexShow = 0;
-    return {.markRow = 0, .captionFrom = 0, .captionTo = shownRows()};
+void ScenarioList::Down() {
+    if (m_indexChoose >= m_numOfList - 1) return;
+    ++m_indexChoose;
+    // From the last row a list longer than the rows scrolls; a shorter one ends in its last row.
+    m_indexShow = qMin(m_indexShow + 1, shownRows() - 1);
+    emit changed();
 }
 
-ScenarioList::RowChange ScenarioList::Down() {
-    if (!isConsistent()) return {};
-    const qint32 rows = shownRows();
-    ++indexShow;
-    ++indexChoose;
-    if (indexChoose == numOfList) {
-        indexShow = rows - 1;
-        indexChoose = numOfList - 1;
-        return {};
-    }
-    if (indexShow < rows - 1) return {.markRow = indexShow};
-    indexShow = rows - 1;
-    // Only a list longer than the rows can scroll; a shorter one ends in the last row.
-    if (numOfList > kRows) return {.markRow = rows - 1, .captionFrom = 0, .captionTo = kRows};
-    return {.markRow = rows - 1};
-}
-
-ScenarioList::RowChange ScenarioList::Remove() {
-    if (!isConsistent()) return {};
-    const qint32 before = numOfList;
-    for (qint32 i = indexChoose + 1; i < before; ++i) txtLoadScenarioName[i - 1] = txtLoadScenarioName[i];
+void ScenarioList::Remove() {
+    if (m_numOfList == 0) return;
+    for (qint32 i = m_indexChoose + 1; i < m_numOfList; ++i)
+        txtLoadScenarioName[i - 1] = txtLoadScenarioName[i];
     // The last slot keeps its old text: it now lies beyond the list.
-    const qint32 n = before - 1;
-    numOfList = n;
-
+    const qint32 n = --m_numOfList;
     if (n == 0) {
-        if (page == Page::List) page = Page::Choice;
-        return {.listEmptied = true};
+        if (m_page == Page::List) m_page = Page::Choice;
+    } else if (n >= kRows) {
+        const qint32 first = firstShown();
+        // When the removed name was the last, the new last name is chosen; the rows would reach
+        // past the end of the list when they showed its end, so the first shown name moves up by
+        // one. Otherwise the name that followed the removed one moves up into the chosen row.
+        if (m_indexChoose >= n) m_indexChoose = n - 1;
+        if (first + kRows > n) m_indexShow = m_indexChoose - (n - kRows);
+    } else if (m_indexChoose < n) {
+        // The whole list fits in the rows, starting with row 0.
+        m_indexShow = m_indexChoose;
+    } else {
+        // The removed name was the last: the new last name, one row up, is chosen.
+        m_indexChoose = --m_indexShow;
     }
-
-    if (n >= kRows) {
-        qint32 first = firstShown();
-        const qint32 row = indexShow;
-        // The rows would reach past the end of the list when they showed its end: the first
-        // shown name moves up by one, and all rows are captioned again. When the removed name
-        // was the last, the new last name is chosen.
-        if (indexChoose >= n) indexChoose = n - 1;
-        if (first + kRows > n) {
-            first = n - kRows;
-            indexShow = indexChoose - first;
-            return {.markRow = indexShow, .captionFrom = 0, .captionTo = kRows};
-        }
-        // The name that followed the removed one moves up into the chosen row.
-        return {.markRow = row, .captionFrom = row, .captionTo = kRows};
-    }
-
-    // The whole list fits in the rows, starting with row 0.
-    if (indexChoose < n) {
-        indexShow = indexChoose;
-        return {.hideRow = n, .markRow = indexChoose, .captionFrom = indexChoose, .captionTo = n};
-    }
-    // The removed name was the last: the new last name, one row up, is chosen.
-    const qint32 vacated = indexChoose;
-    --indexShow;
-    indexChoose = indexShow;
-    return {.hideRow = vacated, .markRow = vacated - 1};
+    emit changed();
 }

@@ -1,69 +1,58 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
-#include <QtGlobal>
 
-// The scenario screen's choices: which of its two views is open, whether a typed name can be
-// created, and the list of scenario names behind the seven name rows: which name is chosen,
-// which row shows it, and what the rows must be told when the choice moves or a name goes. No
-// widgets: each operation changes the model and answers with the changes for the screen to
-// carry out.
-//
-// Row r shows the name at firstShown() + r for r below shownRows(); the chosen name is in row
-// indexShow, the only row with the highlight bar. Every operation keeps the rows within the
-// list, and ignores a model that is not (fields are public, so anybody may have set them).
-class ScenarioList {
+// The scenario screen's choices: which of its two views is open, the name typed for a new
+// scenario, and the list of scenario names behind the seven name rows: which name is chosen and
+// which row shows it. Row r shows the name at firstShown() + r for r below shownRows(); the
+// chosen name is in row indexShow(), the only row with the highlight bar. Every operation keeps
+// the rows within the list; `changed` follows every one that took effect.
+class ScenarioList : public QObject {
+    Q_OBJECT
 public:
     static constexpr qint32 kSlots = 20;
     static constexpr qint32 kRows = 7;
 
-    // What the rows must do, in this order: hide the list (it is empty now), hide one row,
-    // move the highlight bar, re-caption a range of rows.
-    struct RowChange {
-        bool listEmptied = false;
-        qint32 hideRow = -1;
-        // Row that gets the highlight bar; rows 0 to shownRows() - 1 other than it get no
-        // pictures. -1: the pictures stay.
-        qint32 markRow = -1;
-        // Rows captionFrom to captionTo - 1 show the name at firstShown() + r.
-        qint32 captionFrom = 0;
-        qint32 captionTo = 0;
-
-        bool isNothing() const {
-            return !listEmptied && hideRow < 0 && markRow < 0 && captionFrom >= captionTo;
-        }
-        friend bool operator==(const RowChange&, const RowChange&) = default;
-    };
-
     // The view open beside the two actions; leaving the screen closes it.
     enum class Page { Choice, Create, List };
 
-    void CreateAction() { page = Page::Create; }
-    void ModifyAction() { page = Page::List; }
-    void Leave() { page = Page::Choice; }
-    // "Create" takes any name of at least one character; answers whether it is enabled now.
-    bool NameChanged(const QString& text);
-    // "Modify exist scenario" leads nowhere once the list is empty.
-    bool canModify() const { return numOfList > 0; }
-
     // The twenty names "0" to "19", the first one chosen in row 0.
-    void Fill();
+    explicit ScenarioList(QObject* parent = nullptr);
 
-    qint32 shownRows() const { return qBound(0, numOfList, kRows); }
-    qint32 firstShown() const { return indexChoose - indexShow; }
+    void CreateAction() { OpenPage(Page::Create); }
+    void ModifyAction() { OpenPage(Page::List); }
+    void Leave() { OpenPage(Page::Choice); }
+    void NameChanged(const QString& text);
+    // A row pressed: its name is chosen. Rows that show no name are ignored.
+    void ChooseRow(qint32 row);
+    void Up();
+    void Down();
+    void Remove();
+
+    Page page() const { return m_page; }
+    // "Create" takes any name of at least one character.
+    bool bCreateEnabled() const { return !m_typedName.isEmpty(); }
+    // "Modify exist scenario" leads nowhere once the list is empty.
+    bool canModify() const { return m_numOfList > 0; }
+    qint32 indexChoose() const { return m_indexChoose; }
+    qint32 indexShow() const { return m_indexShow; }
+    qint32 numOfList() const { return m_numOfList; }
+    qint32 shownRows() const { return qBound(0, m_numOfList, kRows); }
+    qint32 firstShown() const { return m_indexChoose - m_indexShow; }
     // The name in a slot; a null text for a slot outside the array.
     QString name(qint32 index) const;
-    bool isConsistent() const;
 
-    RowChange ChooseRow(qint32 row);
-    RowChange Up();
-    RowChange Down();
-    RowChange Remove();
+signals:
+    void changed();
 
-    Page page = Page::Choice;
-    bool bCreateEnabled = false;
-    qint32 indexChoose = 0;
-    qint32 indexShow = 0;
-    qint32 numOfList = 0;
+private:
+    void OpenPage(Page page);
+
+    Page m_page = Page::Choice;
+    QString m_typedName;
+    qint32 m_indexChoose = 0;
+    qint32 m_indexShow = 0;
+    qint32 m_numOfList = kSlots;
     QString txtLoadScenarioName[kSlots];
 };

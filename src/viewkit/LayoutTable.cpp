@@ -29,23 +29,28 @@ NSImageViewS* MakeView(NSViewS* parent, const Row& row) {
     return view;
 }
 
-Button* MakeButton(NSViewS* parent, const Row& row) {
+Button* MakeButton(NSViewS* parent, const Row& row, void* context) {
     auto* button = new Button(row.frame);
     if (row.name) button->setAccessibleName(str(row.name));
     if (row.hidden) button->setHidden(true);
     button->InitImage(str(row.up), str(row.move), str(row.down), str(row.type), parent);
     SetCaption(button, row.caption);
+    void* to = context ? context : parent;
+    if (row.action) button->InitButtonAction(row.action, to);
+    if (row.entered) button->InitButtonEntered(row.entered, to);
+    if (row.exited) button->InitButtonExited(row.exited, to);
     return button;
 }
 
-Row SilverButton(Button** field, NSRect frame, Caption caption, bool hidden) {
+Row SilverButton(Button** field, NSRect frame, Caption caption, bool hidden, ButtonCallback action) {
     return {.button = field,
             .frame = frame,
             .up = "but_common_BtnSilver",
             .move = "but_common_over_BtnSilver",
             .down = "but_common_over_BtnSilver",
             .caption = caption,
-            .hidden = hidden};
+            .hidden = hidden,
+            .action = action};
 }
 
 Row HelpButton(Button** field, NSRect frame) {
@@ -75,7 +80,7 @@ Row Family(Button** field, NSRect frame, const char* base, const char* up, const
             .name = name};
 }
 
-void BuildTabs(NSViewS* parent, const TabStrip& strip) {
+void BuildTabs(NSViewS* parent, const TabStrip& strip, void* context) {
     struct TabLook {
         const char* picture;
         const char* name;
@@ -87,16 +92,17 @@ void BuildTabs(NSViewS* parent, const TabStrip& strip) {
                                              {"play", "Play"}};
     for (int i = 0; i < kTabCount; ++i) {
         const char* up = static_cast<int>(strip.current) == i ? "_over" : "";
-        const Row row = Family(strip.fields[i], MakeNSRect(strip.x[i], strip.y, 64, 63), looks[i].picture, up,
-                               "_over", "_over", looks[i].name);
-        *row.button = MakeButton(parent, row);
+        Row row = Family(strip.fields[i], MakeNSRect(strip.x[i], strip.y, 64, 63), looks[i].picture, up,
+                         "_over", "_over", looks[i].name);
+        row.action = strip.actions[i];
+        *row.button = MakeButton(parent, row, context);
     }
 }
 
-void Build(NSViewS* parent, std::initializer_list<Row> rows) {
+void Build(NSViewS* parent, std::initializer_list<Row> rows, void* context) {
     for (const Row& row : rows) {
         if (row.button)
-            *row.button = MakeButton(parent, row);
+            *row.button = MakeButton(parent, row, context);
         else if (row.image)
             *row.image = MakeView(parent, row);
         else

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "Button.h"
 #include "NSRect.h"
 
 #include <QColor>
 #include <QString>
 
 #include <initializer_list>
-
-class Button;
-class NSImageViewS;
-class NSViewS;
 
 // Screens are written as their layout tables: one row per widget, built in row order by one
 // helper, so each widget joins its parent on top of the ones before it.
@@ -37,13 +34,19 @@ struct Row {
     bool hidden = false;
     // What assistive technology calls a control that has no caption to read.
     const char* name = nullptr;
+    // A button's callbacks, each called with the context the table is built with; none: the
+    // button keeps the do-nothing default.
+    ButtonCallback action = nullptr;
+    ButtonCallback entered = nullptr;
+    ButtonCallback exited = nullptr;
 };
 
 // The font of every caption in the application.
 inline const char* const kFontName = "Courier";
 
 // Buttons several screens share: the silver push button (Back, Done, Settings) and the help button.
-Row SilverButton(Button** field, NSRect frame, Caption caption = {}, bool hidden = false);
+Row SilverButton(Button** field, NSRect frame, Caption caption = {}, bool hidden = false,
+                 ButtonCallback action = nullptr);
 Row HelpButton(Button** field, NSRect frame);
 
 // A button of one picture family, "<base><up>", "<base><move>", "<base><down>": the arrows'
@@ -58,13 +61,15 @@ struct TabStrip {
     Button** fields[kTabCount];
     qint32 x[kTabCount];
     Tab current; // wears its chosen look in every state, so the page shows which editor it is
+    ButtonCallback actions[kTabCount] = {};
     qint32 y = 199;
 };
-void BuildTabs(NSViewS* parent, const TabStrip& strip);
+void BuildTabs(NSViewS* parent, const TabStrip& strip, void* context = nullptr);
 
-void Build(NSViewS* parent, std::initializer_list<Row> rows);
+// Buttons' callbacks get `context`; without one, the parent.
+void Build(NSViewS* parent, std::initializer_list<Row> rows, void* context = nullptr);
 NSImageViewS* MakeView(NSViewS* parent, const Row& row);
-Button* MakeButton(NSViewS* parent, const Row& row);
+Button* MakeButton(NSViewS* parent, const Row& row, void* context = nullptr);
 void SetCaption(NSImageViewS* view, const Caption& caption);
 
 } // namespace Layout

@@ -97,8 +97,8 @@ private slots:
     void press_data() {
         QTest::addColumn<qint32>("items");
         QTest::addColumn<QString>(
-            "presses"); // buttons, > or < for the sound set pages, v or ^ the timeline's
-        QTest::addColumn<bool>("moved");
+            "presses");                  // buttons, > or < for the sound set pages, v or ^ the timeline's
+        QTest::addColumn<bool>("moved"); // the last press changed the board
         QTest::addColumn<qint32>("marked");
         QTest::addColumn<QList<qint32>>("appended");
         QTest::addColumn<qint32>("pageAfter");
@@ -125,15 +125,22 @@ private slots:
         SoundSetBoard board(&t);
         Fill(t, items);
         QSignalSpy made(&t, &SoundTimeline::ItemAppended);
-        bool last = false;
-        for (const QString& p : presses.split(' '))
-            last = p == ">"   ? board.PageNext()
-                   : p == "<" ? board.PagePre()
-                   : p == "v" ? (t.SoundContentDown(), false)
-                   : p == "^" ? (t.SoundContentUp(), false)
-                              : board.SoundSet(p.toInt());
-        QCOMPARE(last, moved);
-        QCOMPARE(board.iCurSoundSet, marked);
+        QSignalSpy boardChanged(&board, &SoundSetBoard::changed);
+        for (const QString& p : presses.split(' ')) {
+            boardChanged.clear();
+            if (p == ">")
+                board.PageNext();
+            else if (p == "<")
+                board.PagePre();
+            else if (p == "v")
+                t.SoundContentDown();
+            else if (p == "^")
+                t.SoundContentUp();
+            else
+                board.SoundSet(p.toInt());
+        }
+        QCOMPARE(!boardChanged.isEmpty(), moved);
+        QCOMPARE(board.iCurSoundSet(), marked);
         QList<QList<QVariant>> told;
         for (qint32 sound : appended) told.append({items + qint32(told.size()), sound});
         QCOMPARE(made, told);

@@ -102,13 +102,14 @@ QStringList AppInvariants(const Frame_Control* root) {
     expect(wrong < 0, QStringLiteral("sound button %1 out of step with its board").arg(wrong));
 
     const Frame_Scenario* s = root->frmScenario;
+    const ScenarioList& list = s->list;
     wrong = -1;
     for (qint32 r = 0; r < ScenarioList::kRows && wrong < 0; ++r)
         if (const Button* row = s->BtnScenarioName[r];
-            shown(row) != (r < s->shownRows()) ||
-            (r < s->shownRows() &&
-             (row->captionText() != s->name(s->firstShown() + r) ||
-              (row->BtnImageUp.name() == QLatin1String("long bar")) != (r == s->indexShow))))
+            shown(row) != (r < list.shownRows()) ||
+            (r < list.shownRows() &&
+             (row->captionText() != list.name(list.firstShown() + r) ||
+              (row->BtnImageUp.name() == QLatin1String("long bar")) != (r == list.indexShow()))))
             wrong = r;
     expect(wrong < 0, QStringLiteral("row %1 out of step with the list").arg(wrong));
     expect((s->BtnNewCreate->bEnable != 0) != s->txtScenarioName->text().isEmpty(),

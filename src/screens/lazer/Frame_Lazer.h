@@ -2,6 +2,7 @@
 
 #include "Button.h"
 #include "FRAMESRECORD.h"
+#include "LazerConfiguration.h"
 
 // The page on which the user says which of the three robot configurations was built. The choice
 // shows in this page's large picture (and to assistive technology, as the selected button);
@@ -14,9 +15,11 @@ public:
     // Hover registrations of the screen's buttons; every screen that shows this one calls it
     // again after the showing, since a registration made while hidden never fires.
     void ButtonTrackingOn() override;
-    void InitInterWorking();
     // The large picture and the selected button of the configuration chosen.
     void ShowLazerType();
+
+    // The configuration chosen; the three buttons pass the user's choice into it.
+    LazerConfiguration configuration;
 
     NSImageViewS* imgBackGround = nullptr;
     NSImageViewS* txtSiteTitle = nullptr;
@@ -27,7 +30,6 @@ public:
     Button* BtnPlay = nullptr;
     NSImageViewS* txtAnimation = nullptr;
     NSImageViewS* imgLazerType = nullptr;
-    qint32 LazerType = 0;
     FRAMESRECORD frmFrameRec;
     NSImageViewS* txtLazerDescription = nullptr;
     NSImageViewS* txtLazerTitle = nullptr;
@@ -43,8 +45,11 @@ private:
 
 void Frame_Lazer_SoundBtnAcion(void* context, Button* button);
 void Frame_Lazer_MovementBtnAcion(void* context, Button* button);
-void Frame_Lazer_BtnFaceBtnAcion(void* context, Button* button);
-void Frame_Lazer_BtnPlayBtnAcion(void* context, Button* button);
-void Frame_Lazer_BtnLazer1BtnAcion(void* context, Button* button);
-void Frame_Lazer_BtnLazer2BtnAcion(void* context, Button* button);
-void Frame_Lazer_BtnLazer3BtnAcion(void* context, Button* button);
+// The face tab and play have no pages of their own: both lead to the movement editor.
+inline constexpr ButtonCallback Frame_Lazer_BtnFaceBtnAcion = Frame_Lazer_MovementBtnAcion;
+inline constexpr ButtonCallback Frame_Lazer_BtnPlayBtnAcion = Frame_Lazer_MovementBtnAcion;
+// The three configuration buttons share one action, which knows the configuration by its button.
+void Frame_Lazer_BtnLazerBtnAcion(void* context, Button* button);
+inline constexpr ButtonCallback Frame_Lazer_BtnLazer1BtnAcion = Frame_Lazer_BtnLazerBtnAcion;
+inline constexpr ButtonCallback Frame_Lazer_BtnLazer2BtnAcion = Frame_Lazer_BtnLazerBtnAcion;
+inline constexpr ButtonCallback Frame_Lazer_BtnLazer3BtnAcion = Frame_Lazer_BtnLazerBtnAcion;

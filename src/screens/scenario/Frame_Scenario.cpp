@@ -8,6 +8,7 @@
 
 #include <QLineEdit>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -18,9 +19,26 @@ Frame_Scenario* Screen(void* context) {
     return static_cast<Frame_Scenario*>(context);
 }
 
-template <qint32 Row> void NameBtnAction(void* context, Button*) {
-    Frame_Scenario* screen = Screen(context);
-    if (screen) screen->ApplyRowChange(screen->ChooseRow(Row));
+// Shows or hides a view only when it changes, so that hiding leaves the keyboard where it is.
+void SetShown(QWidget* view, bool shown) {
+    if (view->isHidden() == shown) view->setHidden(!shown);
+}
+
+Layout::Row Btn03(Button** field, qint32 y, const char* text, ButtonCallback action) {
+    return {.button = field,
+            .frame = MakeNSRect(95, y, 326, 46),
+            .up = "but_normal_Btn03",
+            .move = "but_over_Btn03",
+            .down = "but_selected_Btn03",
+            .caption = {text, NSColor::whiteColor(), MakeNSRect(10, 10, 326, 46), 16},
+            .action = action};
+}
+
+Layout::Row ListButton(Button** field, qint32 x, const char* base, const char* up, const char* move,
+                       const char* name, ButtonCallback action) {
+    Layout::Row row = Layout::Family(field, MakeNSRect(x, 328, 48, 25), base, up, move, move, name);
+    row.action = action;
+    return row;
 }
 
 } // namespace
@@ -31,7 +49,8 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
         {
             {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
             Layout::SilverButton(&BtnBack, MakeNSRect(714, 711, 85, 40),
-                                 {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}),
+                                 {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}, false,
+                                 Frame_Scenario_BackBtnAction),
             {.image = &txtAlarmDescription,
              .frame = MakeNSRect(238, 57, 213, 155),
              .caption =
@@ -44,39 +63,20 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
             {.image = &txtScenarioAct,
              .frame = MakeNSRect(103, 317, 348, 18),
              .caption = {"Choose an action:", NSColor::orangeColor(), MakeNSRect(0, 0, 348, 19), 16}},
-            {.button = &BtnCreate,
-             .frame = MakeNSRect(95, 350, 326, 46),
-             .up = "but_normal_Btn03",
-             .move = "but_over_Btn03",
-             .down = "but_selected_Btn03",
-             .caption = {"Create a new scenario", NSColor::whiteColor(), MakeNSRect(10, 10, 326, 46), 16}},
-            {.button = &BtnModify,
-             .frame = MakeNSRect(95, 421, 326, 46),
-             .up = "but_normal_Btn03",
-             .move = "but_over_Btn03",
-             .down = "but_selected_Btn03",
-             .caption = {"Modify exist scenario", NSColor::whiteColor(), MakeNSRect(10, 10, 326, 46), 16}},
+            Btn03(&BtnCreate, 350, "Create a new scenario", Frame_Scenario_CreateBtnAction),
+            Btn03(&BtnModify, 421, "Modify exist scenario", Frame_Scenario_ModifyBtnAction),
         });
-
-    BtnCreate->InitButtonAction(Frame_Scenario_CreateBtnAction, this);
-    BtnModify->InitButtonAction(Frame_Scenario_ModifyBtnAction, this);
-    BtnBack->InitButtonAction(Frame_Scenario_BackBtnAction, this);
     KeyboardNavigation::EscapePresses(BtnBack);
 
     InitView();
     ButtonTrackingOn();
-    if (!canModify()) BtnModify->setHidden(true);
+    connect(&list, &ScenarioList::changed, this, &Frame_Scenario::Refresh);
+    Refresh();
 }
 
 void Frame_Scenario::InitView() {
     InitCreateScenarioView();
     InitLoadScenarioView();
-    ShowPage();
-}
-
-void Frame_Scenario::ShowPage() {
-    frmCreateScenarioView->setHidden(page != Page::Create);
-    frmLoadScenarioView->setHidden(page != Page::List);
 }
 
 void Frame_Scenario::InitCreateScenarioView() {
@@ -102,49 +102,37 @@ void Frame_Scenario::InitCreateScenarioView() {
                     .up = "but_normal_Btn01",
                     .move = "but_over_Btn01",
                     .down = "but_selected_Btn01",
-                    .caption = {"Create", NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16}}});
-    BtnNewCreate->InitButtonAction(Frame_Scenario_GoMoveMentBtnAction, this);
-    BtnNewCreate->SetEnable(bCreateEnabled ? 1 : 0);
+                    .caption = {"Create", NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16},
+                    .action = Frame_Scenario_GoMoveMentBtnAction}},
+                  this);
     KeyboardNavigation::ReturnPresses(frmCreateScenarioView, BtnNewCreate);
 }
 
 void Frame_Scenario::InitLoadScenarioView() {
-    Fill();
     frmLoadScenarioView = new NSViewS(MakeNSRect(518, 290, 414, 351));
     addSubview(frmLoadScenarioView);
 
+    static constexpr ButtonCallback kNameActions[kRows] = {
+        Frame_Scenario_NameBtnAction0, Frame_Scenario_NameBtnAction1, Frame_Scenario_NameBtnAction2,
+        Frame_Scenario_NameBtnAction3, Frame_Scenario_NameBtnAction4, Frame_Scenario_NameBtnAction5,
+        Frame_Scenario_NameBtnAction6};
     for (qint32 r = 0; r < kRows; ++r) {
-        const char* bar = r == indexShow ? kHighlightBar : nullptr;
         BtnScenarioName[r] = Layout::MakeButton(
-            frmLoadScenarioView,
-            {.frame = MakeNSRect(0, 36 * r, 414, 39), .up = bar, .move = bar, .down = bar});
-        SetNameCaption(r, name(firstShown() + r));
-        BtnScenarioName[r]->setChoice(Button::Choice::Select, r == indexShow);
+            frmLoadScenarioView, {.frame = MakeNSRect(0, 36 * r, 414, 39), .action = kNameActions[r]}, this);
         BtnScenarioName[r]->RegisterHover();
     }
 
-    const auto listButton = [](Button** field, qint32 x, const char* base, const char* up, const char* move,
-                               const char* name) {
-        return Layout::Family(field, MakeNSRect(x, 328, 48, 25), base, up, move, move, name);
-    };
     Layout::Build(
         frmLoadScenarioView,
         {
-            listButton(&BtnUpList, 212, "ButtonSelectBarUp", "_common", "_focus", "Scenario list up"),
-            listButton(&BtnDownList, 262, "ButtonSelectBarDown", "_common", "_focus", "Scenario list down"),
-            listButton(&BtnX, 312, "Btn_X", "_up", "_move", "Delete scenario"),
-            listButton(&BtnGo, 362, "Btn_Go", "_up", "_focus", "Go"),
-        });
-
-    const ButtonCallback nameActions[kRows] = {Frame_Scenario_NameBtnAction0, Frame_Scenario_NameBtnAction1,
-                                               Frame_Scenario_NameBtnAction2, Frame_Scenario_NameBtnAction3,
-                                               Frame_Scenario_NameBtnAction4, Frame_Scenario_NameBtnAction5,
-                                               Frame_Scenario_NameBtnAction6};
-    for (qint32 r = 0; r < kRows; ++r) BtnScenarioName[r]->InitButtonAction(nameActions[r], this);
-    BtnUpList->InitButtonAction(Frame_Scenario_UpListBtnAction, this);
-    BtnDownList->InitButtonAction(Frame_Scenario_DownListBtnAction, this);
-    BtnX->InitButtonAction(Frame_Scenario_XBtnAction, this);
-    BtnGo->InitButtonAction(Frame_Scenario_GoMoveMentBtnAction, this);
+            ListButton(&BtnUpList, 212, "ButtonSelectBarUp", "_common", "_focus", "Scenario list up",
+                       Frame_Scenario_UpListBtnAction),
+            ListButton(&BtnDownList, 262, "ButtonSelectBarDown", "_common", "_focus", "Scenario list down",
+                       Frame_Scenario_DownListBtnAction),
+            ListButton(&BtnX, 312, "Btn_X", "_up", "_move", "Delete scenario", Frame_Scenario_XBtnAction),
+            ListButton(&BtnGo, 362, "Btn_Go", "_up", "_focus", "Go", Frame_Scenario_GoMoveMentBtnAction),
+        },
+        this);
 }
 
 void Frame_Scenario::ButtonTrackingOn() {
@@ -153,100 +141,72 @@ void Frame_Scenario::ButtonTrackingOn() {
     RegisterHover({BtnBack, BtnNewCreate, BtnCreate, BtnModify, BtnUpList, BtnDownList, BtnX, BtnGo});
 }
 
-void Frame_Scenario::MarkRow(qint32 row) {
-    for (qint32 r = 0; r < shownRows(); ++r) {
-        const QString bar = r == row ? QString::fromLatin1(kHighlightBar) : QString();
-        BtnScenarioName[r]->InitImage(bar, bar, bar, r == row ? QStringLiteral("png") : QString(),
-                                      frmLoadScenarioView);
-        BtnScenarioName[r]->setChoice(Button::Choice::Select, r == row);
+void Frame_Scenario::Refresh() {
+    SetShown(frmCreateScenarioView, list.page() == ScenarioList::Page::Create);
+    SetShown(frmLoadScenarioView, list.page() == ScenarioList::Page::List);
+    SetShown(BtnModify, list.canModify());
+    BtnNewCreate->SetEnable(list.bCreateEnabled() ? 1 : 0);
+    // The rows below the list's end go with their names; the others show them from firstShown().
+    for (qint32 r = 0; r < kRows; ++r) {
+        Button* row = BtnScenarioName[r];
+        if (r >= list.shownRows()) {
+            SetShown(row, false);
+            continue;
+        }
+        const bool chosen = r == list.indexShow();
+        const QString bar = chosen ? QString::fromLatin1(kHighlightBar) : QString();
+        row->InitImage(bar, bar, bar, chosen ? QStringLiteral("png") : QString(), frmLoadScenarioView);
+        row->setChoice(Button::Choice::Select, chosen);
+        row->InitText(list.name(list.firstShown() + r), NSColor::whiteColor(), 0, MakeNSRect(12, 8, 111, 39),
+                      QString::fromLatin1(Layout::kFontName), 16);
     }
-}
-
-void Frame_Scenario::SetNameCaption(qint32 row, const QString& text) {
-    if (row < 0 || row >= kRows) return;
-    BtnScenarioName[row]->InitText(text, NSColor::whiteColor(), 0, MakeNSRect(12, 8, 111, 39),
-                                   QString::fromLatin1(Layout::kFontName), 16);
-}
-
-void Frame_Scenario::ApplyRowChange(const RowChange& change) {
-    if (change.listEmptied) {
-        // The last row goes with the last name, as every row before it did.
-        for (Button* row : BtnScenarioName) row->setHidden(true);
-        ShowPage();
-        BtnModify->setHidden(!canModify());
-        return;
-    }
-    if (change.hideRow >= 0 && change.hideRow < kRows) BtnScenarioName[change.hideRow]->setHidden(true);
-    if (change.markRow >= 0) MarkRow(change.markRow);
-    for (qint32 r = qMax(change.captionFrom, 0); r < qMin(change.captionTo, kRows); ++r)
-        SetNameCaption(r, name(firstShown() + r));
 }
 
 void Frame_Scenario_CreateBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->CreateAction();
-    screen->ShowPage();
+    screen->list.CreateAction();
     KeyboardNavigation::FocusIfKeyboardInUse(screen->txtScenarioName);
 }
 
 void Frame_Scenario_ModifyBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->ModifyAction();
-    screen->ShowPage();
+    screen->list.ModifyAction();
+    // The list view is on view now: its buttons' registrations can fire.
     screen->ButtonTrackingOn();
 }
 
 void Frame_Scenario_GoMoveMentBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->Leave();
-    screen->ShowPage();
+    screen->list.Leave();
     ScreenHost::Follow(screen, Route::ScenarioGo);
 }
 
 void Frame_Scenario_BackBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
-    screen->Leave();
-    screen->ShowPage();
+    screen->list.Leave();
     ScreenHost::Follow(screen, Route::ScenarioBack);
 }
 
-void Frame_Scenario_NameBtnAction0(void* context, Button* button) {
-    NameBtnAction<0>(context, button);
-}
-void Frame_Scenario_NameBtnAction1(void* context, Button* button) {
-    NameBtnAction<1>(context, button);
-}
-void Frame_Scenario_NameBtnAction2(void* context, Button* button) {
-    NameBtnAction<2>(context, button);
-}
-void Frame_Scenario_NameBtnAction3(void* context, Button* button) {
-    NameBtnAction<3>(context, button);
-}
-void Frame_Scenario_NameBtnAction4(void* context, Button* button) {
-    NameBtnAction<4>(context, button);
-}
-void Frame_Scenario_NameBtnAction5(void* context, Button* button) {
-    NameBtnAction<5>(context, button);
-}
-void Frame_Scenario_NameBtnAction6(void* context, Button* button) {
-    NameBtnAction<6>(context, button);
+void Frame_Scenario_NameBtnAction(void* context, Button* button) {
+    Frame_Scenario* screen = Screen(context);
+    if (!screen) return;
+    const auto rows = std::begin(screen->BtnScenarioName);
+    screen->list.ChooseRow(
+        static_cast<qint32>(std::find(rows, std::end(screen->BtnScenarioName), button) - rows));
 }
 
 void Frame_Scenario_UpListBtnAction(void* context, Button*) {
-    Frame_Scenario* screen = Screen(context);
-    if (screen) screen->ApplyRowChange(screen->Up());
+    if (Frame_Scenario* screen = Screen(context)) screen->list.Up();
 }
 
 void Frame_Scenario_DownListBtnAction(void* context, Button*) {
-    Frame_Scenario* screen = Screen(context);
-    if (screen) screen->ApplyRowChange(screen->Down());
+    if (Frame_Scenario* screen = Screen(context)) screen->list.Down();
 }
 
 void Frame_Scenario_XBtnAction(void* context, Button*) {
-    Frame_Scenario* screen = Screen(context);
-    if (screen) screen->ApplyRowChange(screen->Remove());
+    if (Frame_Scenario* screen = Screen(context)) screen->list.Remove();
 }

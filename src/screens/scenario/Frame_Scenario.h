@@ -9,11 +9,13 @@
 class ScenarioNotify;
 
 // Between the main menu and the editors: a new scenario is named in the create view, an existing
-// one is picked from the list view's seven rows. The list's fields (indexChoose, indexShow,
-// numOfList, txtLoadScenarioName) are the screen's own, kept across visits like everything else.
-class Frame_Scenario : public NSViewS, public ScenarioList {
+// one is picked from the list view's seven rows. The screen shows what `list` holds, kept across
+// visits like everything else.
+class Frame_Scenario : public NSViewS {
     Q_OBJECT
 public:
+    static constexpr qint32 kRows = ScenarioList::kRows;
+
     explicit Frame_Scenario(const NSRect& frame);
 
     void InitView();
@@ -21,13 +23,11 @@ public:
     void InitLoadScenarioView();
     // Hover registrations of the screen's buttons, made after the screen is shown.
     void ButtonTrackingOn() override;
+    // Makes the open view, the name rows, "Modify exist scenario" and "Create" agree with `list`.
+    void Refresh();
 
-    // Opens the view the model has open, and closes the other.
-    void ShowPage();
-    // Carries out on the name rows what the list asked for.
-    void ApplyRowChange(const RowChange& change);
-    void MarkRow(qint32 row);
-    void SetNameCaption(qint32 row, const QString& text);
+    // The names, the chosen one and the open view; the callbacks pass what the user does into it.
+    ScenarioList list;
 
     NSImageViewS* imgBackGround = nullptr;
     NSImageViewS* txtFieldGround = nullptr;
@@ -54,13 +54,15 @@ void Frame_Scenario_CreateBtnAction(void* context, Button* button);
 void Frame_Scenario_ModifyBtnAction(void* context, Button* button);
 void Frame_Scenario_GoMoveMentBtnAction(void* context, Button* button);
 void Frame_Scenario_BackBtnAction(void* context, Button* button);
-void Frame_Scenario_NameBtnAction0(void* context, Button* button);
-void Frame_Scenario_NameBtnAction1(void* context, Button* button);
-void Frame_Scenario_NameBtnAction2(void* context, Button* button);
-void Frame_Scenario_NameBtnAction3(void* context, Button* button);
-void Frame_Scenario_NameBtnAction4(void* context, Button* button);
-void Frame_Scenario_NameBtnAction5(void* context, Button* button);
-void Frame_Scenario_NameBtnAction6(void* context, Button* button);
+// The seven name rows share one action, which knows the row by its button.
+void Frame_Scenario_NameBtnAction(void* context, Button* button);
+inline constexpr ButtonCallback Frame_Scenario_NameBtnAction0 = Frame_Scenario_NameBtnAction;
+inline constexpr ButtonCallback Frame_Scenario_NameBtnAction1 = Frame_Scenario_NameBtnAction;
+inline constexpr ButtonCallback Frame_Scenario_NameBtnAction2 = Frame_Scenario_NameBtnAction;
+inline constexpr ButtonCallback Frame_Scenario_NameBtnAction3 = Frame_Scenario_NameBtnAction;
+inline constexpr ButtonCallback Frame_Scenario_NameBtnAction4 = Frame_Scenario_NameBtnAction;
+inline constexpr ButtonCallback Frame_Scenario_NameBtnAction5 = Frame_Scenario_NameBtnAction;
+inline constexpr ButtonCallback Frame_Scenario_NameBtnAction6 = Frame_Scenario_NameBtnAction;
 void Frame_Scenario_UpListBtnAction(void* context, Button* button);
 void Frame_Scenario_DownListBtnAction(void* context, Button* button);
 void Frame_Scenario_XBtnAction(void* context, Button* button);

@@ -13,13 +13,9 @@ void ScenarioNotify::setDelegateOf(QLineEdit* field) {
 }
 
 void ScenarioNotify::controlTextDidChange(const QLineEdit* field) {
-    if (!scenario || !field || !scenario->BtnNewCreate) return;
-    Button* create = scenario->BtnNewCreate;
-    if (!scenario->NameChanged(field->text())) {
-        create->SetEnable(0);
-        return;
-    }
-    create->SetEnable(1);
-    // One more registration on every change: they pile up as the user types.
-    create->RegisterHover();
+    if (!scenario || !field) return;
+    scenario->list.NameChanged(field->text());
+    // One more registration of "Create" on every change that leaves a name: they pile up as the
+    // user types.
+    if (scenario->list.bCreateEnabled() && scenario->BtnNewCreate) scenario->BtnNewCreate->RegisterHover();
 }

@@ -61,22 +61,30 @@ void Frame_Sound::ButtonInit() {
     Button** b = BtnButton;
     // The same small arrows turn the sound set pages and the timeline's pages; the timeline's
     // wait, hidden, for the first item.
-    Layout::Build(this, {Layout::HelpButton(&b[0], MakeNSRect(57, 37, 29, 28))});
+    Layout::Build(this, {Layout::HelpButton(&b[kBtnHelp], MakeNSRect(57, 37, 29, 28))});
     Layout::BuildTabs(
         this, {.fields = {&b[kBtnMoveMent], &b[kBtnSoundTab], &b[kBtnLazer], &b[kBtnFace], &b[kBtnPlay]},
                .x = {515, 589, 722, 792, 863},
                .current = Layout::Tab::Sound});
-    Layout::Build(this, {
-                            Family(&b[6], MakeNSRect(235, 288, 36, 38), "ButtonSmallCircleLeft", "_common",
-                                   "_focus", "_focus", "Previous sound page"),
-                            Family(&b[7], MakeNSRect(276, 288, 36, 38), "ButtonSmallCircleRight", "_common",
-                                   "_focus", "_focus", "Next sound page"),
-                            Hidden(Family(&b[8], MakeNSRect(817, 273, 36, 38), "ButtonSmallCircleUp",
-                                          "_common", "_focus", "_focus", "Timeline page up")),
-                            Hidden(Family(&b[9], MakeNSRect(854, 273, 36, 38), "ButtonSmallCircleDown",
-                                          "_common", "_focus", "_focus", "Timeline page down")),
-                        });
+    Layout::Build(
+        this, {
+                  Family(&b[kBtnPagePre], MakeNSRect(235, 288, 36, 38), "ButtonSmallCircleLeft", "_common",
+                         "_focus", "_focus", "Previous sound page"),
+                  Family(&b[kBtnPageNext], MakeNSRect(276, 288, 36, 38), "ButtonSmallCircleRight", "_common",
+                         "_focus", "_focus", "Next sound page"),
+                  Hidden(Family(&b[kBtnContentUp], MakeNSRect(817, 273, 36, 38), "ButtonSmallCircleUp",
+                                "_common", "_focus", "_focus", "Timeline page up")),
+                  Hidden(Family(&b[kBtnContentDown], MakeNSRect(854, 273, 36, 38), "ButtonSmallCircleDown",
+                                "_common", "_focus", "_focus", "Timeline page down")),
+              });
 
+    static constexpr ButtonCallback kSoundActions[] = {
+        Frame_Sound_Sound1_1BtnAcion, Frame_Sound_Sound1_2BtnAcion, Frame_Sound_Sound1_3BtnAcion,
+        Frame_Sound_Sound2_1BtnAcion, Frame_Sound_Sound2_2BtnAcion, Frame_Sound_Sound2_3BtnAcion,
+        Frame_Sound_Sound3_1BtnAcion, Frame_Sound_Sound3_2BtnAcion, Frame_Sound_Sound3_3BtnAcion,
+        Frame_Sound_Sound4_1BtnAcion, Frame_Sound_Sound4_2BtnAcion, Frame_Sound_Sound4_3BtnAcion,
+    };
+    static_assert(std::size(kSoundActions) == kBtnSoundLast - kBtnSoundFirst + 1);
     // Three columns of four rows; the sound set page decides the names, the board the mark.
     static constexpr qint32 kColumnX[] = {100, 221, 340};
     for (qint32 i = kBtnSoundFirst; i <= kBtnSoundLast; ++i) {
@@ -86,46 +94,38 @@ void Frame_Sound::ButtonInit() {
                                          .up = pictures.up,
                                          .move = pictures.over,
                                          .down = pictures.over,
-                                         .caption = SoundPictures::Caption(Board.SoundOf(i))});
+                                         .caption = SoundPictures::Caption(Board.SoundOf(i)),
+                                         .action = kSoundActions[k]});
         b[i]->setChoice(Button::Choice::Select, Board.MarkOn(i));
     }
 
     const Layout::Caption erase{"Erase", NSColor::grayColor(), MakeNSRect(22, 11, 46, 18), 15};
     const Layout::Caption back{"Back", NSColor::blackColor(), MakeNSRect(17, 11, 50, 16), 15};
     Layout::Build(this, {
-                            Family(&b[22], MakeNSRect(100, 612, 344, 44), "SelectBarArrow", "_common",
-                                   "_focus", "_focus", "Choose sound set"),
-                            Family(&b[23], MakeNSRect(520, 612, 70, 40), "ButtonSoundDe", "_common",
-                                   "_common", "_common", "Volume down"),
-                            Family(&b[24], MakeNSRect(851, 612, 70, 40), "ButtonSoundPlus", "_common",
-                                   "_common", "_common", "Volume up"),
-                            Family(&b[25], MakeNSRect(515, 712, 93, 40), "but_common_long_left", "_BtnSilver",
-                                   "_over_BtnSilver", "_over_BtnSilver", nullptr, erase),
-                            Family(&b[26], MakeNSRect(606, 712, 93, 40), "but_common_long_right",
+                            Family(&b[kBtnSelectBar], MakeNSRect(100, 612, 344, 44), "SelectBarArrow",
+                                   "_common", "_focus", "_focus", "Choose sound set"),
+                            Family(&b[kBtnVolumeMinus], MakeNSRect(520, 612, 70, 40), "ButtonSoundDe",
+                                   "_common", "_common", "_common", "Volume down"),
+                            Family(&b[kBtnVolumePlus], MakeNSRect(851, 612, 70, 40), "ButtonSoundPlus",
+                                   "_common", "_common", "_common", "Volume up"),
+                            Family(&b[kBtnErase], MakeNSRect(515, 712, 93, 40), "but_common_long_left",
+                                   "_BtnSilver", "_over_BtnSilver", "_over_BtnSilver", nullptr, erase),
+                            Family(&b[kBtnLongRight], MakeNSRect(606, 712, 93, 40), "but_common_long_right",
                                    "_BtnSilver", "_over_BtnSilver", "_over_BtnSilver", "Replay"),
-                            Layout::SilverButton(&b[27], MakeNSRect(715, 712, 85, 40), back),
+                            Layout::SilverButton(&b[kBtnBack], MakeNSRect(715, 712, 85, 40), back),
                         });
 }
 
 void Frame_Sound::InitInterWorking() {
-    static constexpr ButtonCallback kSoundActions[] = {
-        Frame_Sound_Sound1_1BtnAcion, Frame_Sound_Sound1_2BtnAcion, Frame_Sound_Sound1_3BtnAcion,
-        Frame_Sound_Sound2_1BtnAcion, Frame_Sound_Sound2_2BtnAcion, Frame_Sound_Sound2_3BtnAcion,
-        Frame_Sound_Sound3_1BtnAcion, Frame_Sound_Sound3_2BtnAcion, Frame_Sound_Sound3_3BtnAcion,
-        Frame_Sound_Sound4_1BtnAcion, Frame_Sound_Sound4_2BtnAcion, Frame_Sound_Sound4_3BtnAcion,
-    };
-    static_assert(std::size(kSoundActions) == kBtnSoundLast - kBtnSoundFirst + 1);
-
     BtnButton[kBtnMoveMent]->InitButtonAction(Frame_Sound_MoveMentBtnAcion, this);
     BtnButton[kBtnBack]->InitButtonAction(Frame_Sound_BackBtnAcion, this);
     KeyboardNavigation::EscapePresses(BtnButton[kBtnBack]);
     BtnButton[kBtnLazer]->InitButtonAction(Frame_Sound_LazerBtnAcion, this);
-    for (qint32 i = kBtnSoundFirst; i <= kBtnSoundLast; ++i)
-        BtnButton[i]->InitButtonAction(kSoundActions[i - kBtnSoundFirst], this);
     BtnButton[kBtnPagePre]->InitButtonAction(Frame_Sound_PagePreBtnAcion, this);
     BtnButton[kBtnPageNext]->InitButtonAction(Frame_Sound_PageNextBtnAcion, this);
     BtnButton[kBtnContentUp]->InitButtonAction(Frame_Sound_SoundContentUpBtnAction, this);
     BtnButton[kBtnContentDown]->InitButtonAction(Frame_Sound_SoundContentDownBtnAction, this);
+    connect(&Board, &SoundSetBoard::changed, this, &Frame_Sound::ShowSoundSet);
 }
 
 void Frame_Sound::ButtonTrackingOn() {

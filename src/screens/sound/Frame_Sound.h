@@ -46,10 +46,8 @@ public:
     void ButtonTrackingOn() override;
     void InitSoundContent();
 
-    void SoundSet(qint32 button);
-    void SoundSetImg();
-    // Every sound button shows the names of the current sound set page.
-    void ShowSoundSetPage();
+    // Makes the sound buttons' captions and mark agree with `Board`.
+    void ShowSoundSet();
 
     NSImageViewS* imgBackGround = nullptr;
     NSImageViewS* txtString[kTextCount] = {};
@@ -57,6 +55,7 @@ public:
     FRAMESRECORD frmFrameRec;
     SOUNDSETCONTENT SoundContent;
     SoundTimeline Timeline;
+    // The sound set page and the mark; the sound buttons and the page arrows pass presses into it.
     SoundSetBoard Board{&Timeline};
 
 private:
@@ -74,20 +73,17 @@ void Frame_Sound_SoundContentUpBtnAction(void* context, Button* button);
 void Frame_Sound_SoundContentDownBtnAction(void* context, Button* button);
 void Frame_Sound_SoundContentBtnAction(void* context, Button* button);
 
-// Each sound button passes its own index to SoundSet: the one of row r, column c is
-// button 10 + 3 (r - 1) + (c - 1).
-template <qint32 b> void Frame_Sound_SoundBtnAcion(void* context, Button*) {
-    if (context) static_cast<Frame_Sound*>(context)->SoundSet(b);
-}
-inline constexpr ButtonCallback Frame_Sound_Sound1_1BtnAcion = Frame_Sound_SoundBtnAcion<10>;
-inline constexpr ButtonCallback Frame_Sound_Sound1_2BtnAcion = Frame_Sound_SoundBtnAcion<11>;
-inline constexpr ButtonCallback Frame_Sound_Sound1_3BtnAcion = Frame_Sound_SoundBtnAcion<12>;
-inline constexpr ButtonCallback Frame_Sound_Sound2_1BtnAcion = Frame_Sound_SoundBtnAcion<13>;
-inline constexpr ButtonCallback Frame_Sound_Sound2_2BtnAcion = Frame_Sound_SoundBtnAcion<14>;
-inline constexpr ButtonCallback Frame_Sound_Sound2_3BtnAcion = Frame_Sound_SoundBtnAcion<15>;
-inline constexpr ButtonCallback Frame_Sound_Sound3_1BtnAcion = Frame_Sound_SoundBtnAcion<16>;
-inline constexpr ButtonCallback Frame_Sound_Sound3_2BtnAcion = Frame_Sound_SoundBtnAcion<17>;
-inline constexpr ButtonCallback Frame_Sound_Sound3_3BtnAcion = Frame_Sound_SoundBtnAcion<18>;
-inline constexpr ButtonCallback Frame_Sound_Sound4_1BtnAcion = Frame_Sound_SoundBtnAcion<19>;
-inline constexpr ButtonCallback Frame_Sound_Sound4_2BtnAcion = Frame_Sound_SoundBtnAcion<20>;
-inline constexpr ButtonCallback Frame_Sound_Sound4_3BtnAcion = Frame_Sound_SoundBtnAcion<21>;
+// The twelve sound buttons share one action, which knows the button by its place in BtnButton.
+void Frame_Sound_SoundBtnAcion(void* context, Button* button);
+inline constexpr ButtonCallback Frame_Sound_Sound1_1BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound1_2BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound1_3BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound2_1BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound2_2BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound2_3BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound3_1BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound3_2BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound3_3BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound4_1BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound4_2BtnAcion = Frame_Sound_SoundBtnAcion;
+inline constexpr ButtonCallback Frame_Sound_Sound4_3BtnAcion = Frame_Sound_SoundBtnAcion;

@@ -7,6 +7,8 @@
 
 #include <QByteArray>
 
+#include <algorithm>
+
 namespace {
 
 const char* const kLinkBarPictures[2] = {"smallbarH", "smallbarV"};
@@ -22,22 +24,17 @@ void PlaceView(NSViewS* view, const NSRect& frame) {
 
 } // namespace
 
-void Frame_Sound::SoundSet(qint32 button) {
-    if (Board.SoundSet(button)) SoundSetImg();
-}
-
-void Frame_Sound::SoundSetImg() {
-    for (qint32 i : {Board.iCurSoundSet, Board.iLastSoundSet}) {
-        if (!SoundSetBoard::IsSoundButton(i) || !BtnButton[i]) continue;
+void Frame_Sound::ShowSoundSet() {
+    for (qint32 i = kBtnSoundFirst; i <= kBtnSoundLast; ++i) {
+        Button* button = BtnButton[i];
+        const Layout::Caption caption = SoundPictures::Caption(Board.SoundOf(i));
+        if (button->captionText() != QString::fromUtf8(caption.text)) Layout::SetCaption(button, caption);
+        // Only the buttons the mark left or reached take their pictures again.
+        if (button->chosen() == Board.MarkOn(i)) continue;
         const SoundPictures pictures = SoundPictures::Of(Board.MarkOn(i));
-        BtnButton[i]->InitImage(pictures.up, pictures.over, pictures.over, "png", this);
-        BtnButton[i]->setChoice(Button::Choice::Select, Board.MarkOn(i));
+        button->InitImage(pictures.up, pictures.over, pictures.over, "png", this);
+        button->setChoice(Button::Choice::Select, Board.MarkOn(i));
     }
-}
-
-void Frame_Sound::ShowSoundSetPage() {
-    for (qint32 i = kBtnSoundFirst; i <= kBtnSoundLast; ++i)
-        Layout::SetCaption(BtnButton[i], SoundPictures::Caption(Board.SoundOf(i)));
 }
 
 void Frame_Sound::SoundContentItemMade(qint32 n, qint32 sound) {
@@ -122,13 +119,19 @@ void Frame_Sound_LazerBtnAcion(void* context, Button*) {
 }
 
 void Frame_Sound_PagePreBtnAcion(void* context, Button*) {
-    Frame_Sound* sound = Screen(context);
-    if (sound && sound->Board.PagePre()) sound->ShowSoundSetPage();
+    if (Frame_Sound* sound = Screen(context)) sound->Board.PagePre();
 }
 
 void Frame_Sound_PageNextBtnAcion(void* context, Button*) {
+    if (Frame_Sound* sound = Screen(context)) sound->Board.PageNext();
+}
+
+void Frame_Sound_SoundBtnAcion(void* context, Button* button) {
     Frame_Sound* sound = Screen(context);
-    if (sound && sound->Board.PageNext()) sound->ShowSoundSetPage();
+    if (!sound) return;
+    const auto buttons = std::begin(sound->BtnButton);
+    sound->Board.SoundSet(
+        static_cast<qint32>(std::find(buttons, std::end(sound->BtnButton), button) - buttons));
 }
 
 void Frame_Sound_SoundContentUpBtnAction(void* context, Button*) {
