@@ -99,7 +99,8 @@ void BuildTabs(NSViewS* parent, const TabStrip& strip, void* context) {
     }
 }
 
-void Build(NSViewS* parent, std::initializer_list<Row> rows, void* context) {
+namespace {
+template <typename Rows> void BuildRows(NSViewS* parent, const Rows& rows, void* context) {
     for (const Row& row : rows) {
         if (row.button)
             *row.button = MakeButton(parent, row, context);
@@ -108,6 +109,21 @@ void Build(NSViewS* parent, std::initializer_list<Row> rows, void* context) {
         else
             MakeView(parent, row); // decoration nobody refers to again; owned by the parent
     }
+}
+} // namespace
+
+void Build(NSViewS* parent, std::initializer_list<Row> rows, void* context) {
+    BuildRows(parent, rows, context);
+}
+
+void BuildEditor(NSViewS* screen, const Editor& editor, const QList<Row>& underTabs,
+                 const QList<Row>& overTabs) {
+    Build(screen, {{.image = editor.background, .frame = MakeNSRect(0, 0, 1024, 768), .up = "scenario_bg"}});
+    BuildRows(screen, underTabs, nullptr);
+    if (editor.help) Build(screen, {HelpButton(editor.help, MakeNSRect(57, 37, 29, 28))});
+    BuildTabs(screen, editor.tabs);
+    BuildRows(screen, overTabs, nullptr);
+    Build(screen, {editor.back});
 }
 
 } // namespace Layout

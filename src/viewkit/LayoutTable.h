@@ -4,6 +4,7 @@
 #include "NSRect.h"
 
 #include <QColor>
+#include <QList>
 #include <QString>
 
 #include <initializer_list>
@@ -65,6 +66,18 @@ struct TabStrip {
     qint32 y = 199;
 };
 void BuildTabs(NSViewS* parent, const TabStrip& strip, void* context = nullptr);
+
+// What the three editors (movement, sound, laser) share: the editors' background, Help where the
+// editor has one, the tabs and Back. BuildEditor builds, in this order, the background, the
+// editor's rows that lie under the tabs, Help, the tabs, the rows that lie over them, and Back.
+struct Editor {
+    NSImageViewS** background;
+    Button** help = nullptr;
+    TabStrip tabs;
+    Row back;
+};
+void BuildEditor(NSViewS* screen, const Editor& editor, const QList<Row>& underTabs,
+                 const QList<Row>& overTabs);
 
 // Buttons' callbacks get `context`; without one, the parent.
 void Build(NSViewS* parent, std::initializer_list<Row> rows, void* context = nullptr);

@@ -27,18 +27,25 @@ Layout::Caption Orange(const char* text, int w, int h) {
 
 // The two button families of the screen, captioned in white at (8, 8): "Btn01" for On, Off and
 // Set, "Btn02" for the values and the frequencies; "Btn03" for the statuses, captioned by Refresh.
-Layout::Row Btn01(Button** field, int x, int y, const char* up, const char* text) {
-    return Layout::Family(field, MakeNSRect(x, y, 111, 46), "but_", up, "over_Btn01", "selected_Btn01",
-                          nullptr, {text, NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16});
+Layout::Row Btn01(Button** field, int x, int y, const char* up, const char* text, ButtonCallback action) {
+    Layout::Row row =
+        Layout::Family(field, MakeNSRect(x, y, 111, 46), "but_", up, "over_Btn01", "selected_Btn01", nullptr,
+                       {text, NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16});
+    row.action = action;
+    return row;
 }
-Layout::Row Btn02(Button** field, int x, int y, const char* up, const char* down,
+Layout::Row Btn02(Button** field, int x, int y, const char* up, const char* down, ButtonCallback action,
                   const char* text = nullptr) {
-    return Layout::Family(field, MakeNSRect(x, y, 180, 46), "but_", up, "over_Btn02", down, nullptr,
-                          {text, NSColor::whiteColor(), MakeNSRect(8, 8, 180, 46), 16});
+    Layout::Row row = Layout::Family(field, MakeNSRect(x, y, 180, 46), "but_", up, "over_Btn02", down,
+                                     nullptr, {text, NSColor::whiteColor(), MakeNSRect(8, 8, 180, 46), 16});
+    row.action = action;
+    return row;
 }
-Layout::Row Btn03(Button** field, int y) {
-    return Layout::Family(field, MakeNSRect(5, y, 326, 46), "but_", "normal_Btn03", "over_Btn03",
-                          "selected_Btn03");
+Layout::Row Btn03(Button** field, int y, ButtonCallback action) {
+    Layout::Row row = Layout::Family(field, MakeNSRect(5, y, 326, 46), "but_", "normal_Btn03", "over_Btn03",
+                                     "selected_Btn03");
+    row.action = action;
+    return row;
 }
 
 NSViewS* AddPage(NSViewS* screen, const NSRect& frame) {
@@ -50,25 +57,24 @@ NSViewS* AddPage(NSViewS* screen, const NSRect& frame) {
 } // namespace
 
 Frame_Alarm::Frame_Alarm(const NSRect& frame) : NSViewS(frame), flow(WallClockNow()) {
-    Layout::Build(
-        this, {
-                  {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
-                  Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
-                  Layout::SilverButton(&BtnBack, MakeNSRect(714, 711, 85, 40),
-                                       {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}),
-                  Layout::SilverButton(&BtnDone, MakeNSRect(839, 711, 85, 40),
-                                       {"Done", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}, true),
-                  {.image = &txtAlarmDescription, .frame = MakeNSRect(238, 57, 213, 155)},
-                  {.image = &txtSiteTitle,
-                   .frame = MakeNSRect(490, 93, 124, 18),
-                   .caption = {"Alarm Clock/", NSColor::grayColor(), MakeNSRect(0, 0, 124, 18), 16}},
-                  {.image = &txtBigTitle,
-                   .frame = MakeNSRect(490, 119, 263, 40),
-                   .caption = {"Alarm Clock/", NSColor::whiteColor(), MakeNSRect(0, 0, 263, 40), 24}},
-              });
+    Layout::Build(this,
+                  {
+                      {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
+                      Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
+                      Layout::SilverButton(&BtnBack, MakeNSRect(714, 711, 85, 40),
+                                           {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}),
+                      Layout::SilverButton(&BtnDone, MakeNSRect(839, 711, 85, 40),
+                                           {"Done", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16},
+                                           true, Frame_Alarm_DoneBtnAction),
+                      {.image = &txtAlarmDescription, .frame = MakeNSRect(238, 57, 213, 155)},
+                      {.image = &txtSiteTitle,
+                       .frame = MakeNSRect(490, 93, 124, 18),
+                       .caption = {"Alarm Clock/", NSColor::grayColor(), MakeNSRect(0, 0, 124, 18), 16}},
+                      {.image = &txtBigTitle,
+                       .frame = MakeNSRect(490, 119, 263, 40),
+                       .caption = {"Alarm Clock/", NSColor::whiteColor(), MakeNSRect(0, 0, 263, 40), 24}},
+                  });
     InitView();
-    InitAlarmInterWorking();
-    BtnDone->InitButtonAction(Frame_Alarm_DoneBtnAction, this);
     KeyboardNavigation::EscapePresses(BtnBack);
     connect(&flow, &AlarmFlow::changed, this, &Frame_Alarm::Refresh);
     Refresh();
@@ -90,28 +96,32 @@ void Frame_Alarm::InitView() {
 
 void Frame_Alarm::InitChooseView() {
     frmChooseView = AddPage(this, MakeNSRect(91, 295, 340, 154));
-    Layout::Build(frmChooseView, {
-                                     {.image = &txtChooseTitle,
-                                      .frame = MakeNSRect(12, 0, 71, 18),
-                                      .caption = Orange("Choose:", 71, 18)},
-                                     Btn03(&BtnBirthdayStatus, 34),
-                                     Btn03(&BtnWakeupStatus, 93),
-                                 });
+    Layout::Build(frmChooseView,
+                  {
+                      {.image = &txtChooseTitle,
+                       .frame = MakeNSRect(12, 0, 71, 18),
+                       .caption = Orange("Choose:", 71, 18)},
+                      Btn03(&BtnBirthdayStatus, 34, Frame_Alarm_BirthdayBtnAction),
+                      Btn03(&BtnWakeupStatus, 93, Frame_Alarm_WakeupBtnAction),
+                  },
+                  this);
 }
 
 void Frame_Alarm::InitBirthdayControlView() {
     frmBirthdayControlView = AddPage(this, MakeNSRect(91, 308, 363, 89));
-    Layout::Build(frmBirthdayControlView, {
-                                              {.image = &txtCheckTimeDateTitle,
-                                               .frame = MakeNSRect(33, 6, 250, 19),
-                                               .caption = Orange("Check the time and date:", 250, 19)},
-                                              Btn01(&BtnBirthdayOn, 33, 32, "normal_Btn01", "On"),
-                                              Btn01(&BtnBirthdayOff, 144, 32, "selected_Btn01", "Off"),
-                                          });
+    Layout::Build(frmBirthdayControlView,
+                  {
+                      {.image = &txtCheckTimeDateTitle,
+                       .frame = MakeNSRect(33, 6, 250, 19),
+                       .caption = Orange("Check the time and date:", 250, 19)},
+                      Btn01(&BtnBirthdayOn, 33, 32, "normal_Btn01", "On", Frame_Alarm_BirthOnBtnAction),
+                      Btn01(&BtnBirthdayOff, 144, 32, "selected_Btn01", "Off", Frame_Alarm_BirthOffBtnAction),
+                  },
+                  this);
 }
 
 void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTimeEdit* picker, int elements,
-                               const QDateTime& value, Button*& setButton) {
+                               const QDateTime& value, Button*& setButton, ButtonCallback setAction) {
     editor = AddPage(this, MakeNSRect(534, 339, 372, 75));
     Layout::Build(editor, {{.image = &ground, .frame = MakeNSRect(0, 0, 227, 72), .up = "textbox"}});
 
@@ -128,7 +138,7 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
     picker->setDateTime(value);
     AddSubview(editor, picker);
 
-    Layout::Build(editor, {Btn01(&setButton, 257, 23, "normal_Btn01", "Set")});
+    Layout::Build(editor, {Btn01(&setButton, 257, 23, "normal_Btn01", "Set", setAction)}, this);
     KeyboardNavigation::ReturnPresses(editor, setButton);
 }
 
@@ -136,35 +146,39 @@ void Frame_Alarm::InitBirthDateEditView() {
     txtBirthDate = new QDateEdit;
     txtBirthDate->setAccessibleName(QStringLiteral("Birthday date"));
     InitEditView(frmBirthDateEditView, txtFieldGround, txtBirthDate, DatePickerElements::YearMonthDay,
-                 flow.birthDate(), BtnBirthDateSet);
+                 flow.birthDate(), BtnBirthDateSet, Frame_Alarm_BirthDateSetBtnAction);
 }
 
 void Frame_Alarm::InitBirthTimeEditView() {
     txtBirthTime = new QTimeEdit;
     txtBirthTime->setAccessibleName(QStringLiteral("Birthday time"));
     InitEditView(frmBirthTimeEditView, txtBirthTimeFieldGround, txtBirthTime, DatePickerElements::HourMinute,
-                 flow.birthTime(), BtnBirthTimeSet);
+                 flow.birthTime(), BtnBirthTimeSet, Frame_Alarm_BirthTimeSetBtnAction);
 }
 
 void Frame_Alarm::InitWakeupTimeEditView() {
     txtWakeupTime = new QTimeEdit;
     txtWakeupTime->setAccessibleName(QStringLiteral("Wake up time"));
     InitEditView(frmWakeupTimeEditView, txtWakeupTimeFieldGround, txtWakeupTime,
-                 DatePickerElements::HourMinute, flow.wakeupTime(), BtnWakeupTimeSet);
+                 DatePickerElements::HourMinute, flow.wakeupTime(), BtnWakeupTimeSet,
+                 Frame_Alarm_WakeupTimeSetBtnAction);
 }
 
 void Frame_Alarm::InitBirthTimeDateButtonView() {
     frmBirthTimeDateButtonView = AddPage(this, MakeNSRect(91, 412, 363, 108));
-    Layout::Build(frmBirthTimeDateButtonView, {
-                                                  {.image = &txtBirthDateTitle,
-                                                   .frame = MakeNSRect(11, 17, 52, 19),
-                                                   .caption = Orange("Date:", 49, 19)},
-                                                  {.image = &txtBirthTimeTitle,
-                                                   .frame = MakeNSRect(11, 66, 52, 19),
-                                                   .caption = Orange("Time:", 49, 19)},
-                                                  Btn02(&BtnBirthDate, 114, 5, "normal_Btn02", "over_Btn02"),
-                                                  Btn02(&BtnBirthTime, 114, 58, "normal_Btn02", "over_Btn02"),
-                                              });
+    Layout::Build(
+        frmBirthTimeDateButtonView,
+        {
+            {.image = &txtBirthDateTitle,
+             .frame = MakeNSRect(11, 17, 52, 19),
+             .caption = Orange("Date:", 49, 19)},
+            {.image = &txtBirthTimeTitle,
+             .frame = MakeNSRect(11, 66, 52, 19),
+             .caption = Orange("Time:", 49, 19)},
+            Btn02(&BtnBirthDate, 114, 5, "normal_Btn02", "over_Btn02", Frame_Alarm_BirthDateBtnAction),
+            Btn02(&BtnBirthTime, 114, 58, "normal_Btn02", "over_Btn02", Frame_Alarm_BirthTimeBtnAction),
+        },
+        this);
     // Made before the screen is on view, so these never fire: the two buttons never show their
     // move picture.
     RegisterHover({BtnBirthTime, BtnBirthDate});
@@ -172,11 +186,13 @@ void Frame_Alarm::InitBirthTimeDateButtonView() {
 
 void Frame_Alarm::InitWakeupControlView() {
     frmWakeupControlView = AddPage(this, MakeNSRect(102, 313, 350, 72));
-    Layout::Build(frmWakeupControlView, {
-                                            {.image = &txtWakeupTitle, .frame = MakeNSRect(0, 0, 350, 19)},
-                                            Btn01(&BtnWakeupOn, 22, 28, "selected_Btn01", "On"),
-                                            Btn01(&BtnWakeupOff, 133, 28, "disabled_Btn01", "Off"),
-                                        });
+    Layout::Build(frmWakeupControlView,
+                  {
+                      {.image = &txtWakeupTitle, .frame = MakeNSRect(0, 0, 350, 19)},
+                      Btn01(&BtnWakeupOn, 22, 28, "selected_Btn01", "On", Frame_Alarm_WakeupOnBtnAction),
+                      Btn01(&BtnWakeupOff, 133, 28, "disabled_Btn01", "Off", Frame_Alarm_WakeupOffBtnAction),
+                  },
+                  this);
 }
 
 void Frame_Alarm::InitWakeupTimeFreqButtonView() {
@@ -190,11 +206,15 @@ void Frame_Alarm::InitWakeupTimeFreqButtonView() {
             {.image = &txtWakeupFreqTitle,
              .frame = MakeNSRect(0, 60, 350, 19),
              .caption = Orange("Frequency:", 350, 19)},
-            Btn02(&BtnWakeupTime, 101, 0, "normal_Btn02", "selected_Btn02"),
-            Btn02(&BtnWakeupFreq1, 101, 50, "disabled_Btn02", "selected_Btn02", "Once"),
-            Btn02(&BtnWakeupFreq2, 101, 100, "disabled_Btn02", "selected_Btn02", "Daily"),
-            Btn02(&BtnWakeupFreq3, 101, 150, "disabled_Btn02", "selected_Btn02", "Friday To Monday"),
-        });
+            Btn02(&BtnWakeupTime, 101, 0, "normal_Btn02", "selected_Btn02", Frame_Alarm_WakeupTimeBtnAction),
+            Btn02(&BtnWakeupFreq1, 101, 50, "disabled_Btn02", "selected_Btn02",
+                  Frame_Alarm_WakeupFreq1BtnAction, "Once"),
+            Btn02(&BtnWakeupFreq2, 101, 100, "disabled_Btn02", "selected_Btn02",
+                  Frame_Alarm_WakeupFreq2BtnAction, "Daily"),
+            Btn02(&BtnWakeupFreq3, 101, 150, "disabled_Btn02", "selected_Btn02",
+                  Frame_Alarm_WakeupFreq3BtnAction, "Friday To Monday"),
+        },
+        this);
 }
 
 void Frame_Alarm::InitDoneView() {

@@ -27,7 +27,6 @@ public:
     void InitWakeupTimeFreqButtonView();
     void InitDoneView();
 
-    void InitAlarmInterWorking();
     void InitBackBtnToMainMenuInterWorking();
     void InitBackBtnToChooseInterWorking();
     // The choose page's buttons, as the screen is opened.
@@ -92,7 +91,7 @@ private:
     // One editor: its sub-view over the shared place, the "textbox" background, the picker
     // showing the given elements at the value the flow holds, and Set.
     void InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTimeEdit* picker, int elements,
-                      const QDateTime& value, Button*& setButton);
+                      const QDateTime& value, Button*& setButton, ButtonCallback setAction);
 };
 
 void Frame_Alarm_BirthdayBtnAction(void* context, Button* button);
@@ -107,9 +106,11 @@ void Frame_Alarm_WakeupTimeBtnAction(void* context, Button* button);
 void Frame_Alarm_WakeupTimeSetBtnAction(void* context, Button* button);
 void Frame_Alarm_WakeupOnBtnAction(void* context, Button* button);
 void Frame_Alarm_WakeupOffBtnAction(void* context, Button* button);
-void Frame_Alarm_WakeupFreq1BtnAction(void* context, Button* button);
-void Frame_Alarm_WakeupFreq2BtnAction(void* context, Button* button);
-void Frame_Alarm_WakeupFreq3BtnAction(void* context, Button* button);
+// The three frequencies share one action, which knows the frequency by its button.
+void Frame_Alarm_WakeupFreqBtnAction(void* context, Button* button);
+inline constexpr ButtonCallback Frame_Alarm_WakeupFreq1BtnAction = Frame_Alarm_WakeupFreqBtnAction;
+inline constexpr ButtonCallback Frame_Alarm_WakeupFreq2BtnAction = Frame_Alarm_WakeupFreqBtnAction;
+inline constexpr ButtonCallback Frame_Alarm_WakeupFreq3BtnAction = Frame_Alarm_WakeupFreqBtnAction;
 void Frame_Alarm_BackToChooseBtnAction(void* context, Button* button);
 void Frame_Alarm_BackToMainMenuBtnAction(void* context, Button* button);
 void Frame_Alarm_DoneBtnAction(void* context, Button* button);

@@ -127,31 +127,6 @@ void Frame_Alarm::Refresh() {
     }
 }
 
-void Frame_Alarm::InitAlarmInterWorking() {
-    const struct {
-        Button* button;
-        ButtonCallback action;
-    } table[] = {
-        {BtnBirthdayStatus, Frame_Alarm_BirthdayBtnAction},
-        {BtnWakeupStatus, Frame_Alarm_WakeupBtnAction},
-        {BtnBirthdayOn, Frame_Alarm_BirthOnBtnAction},
-        {BtnBirthdayOff, Frame_Alarm_BirthOffBtnAction},
-        {BtnBirthDate, Frame_Alarm_BirthDateBtnAction},
-        {BtnBirthDateSet, Frame_Alarm_BirthDateSetBtnAction},
-        {BtnBirthTime, Frame_Alarm_BirthTimeBtnAction},
-        {BtnBirthTimeSet, Frame_Alarm_BirthTimeSetBtnAction},
-        {BtnWakeupTime, Frame_Alarm_WakeupTimeBtnAction},
-        {BtnWakeupTimeSet, Frame_Alarm_WakeupTimeSetBtnAction},
-        {BtnWakeupOn, Frame_Alarm_WakeupOnBtnAction},
-        {BtnWakeupOff, Frame_Alarm_WakeupOffBtnAction},
-        {BtnWakeupFreq1, Frame_Alarm_WakeupFreq1BtnAction},
-        {BtnWakeupFreq2, Frame_Alarm_WakeupFreq2BtnAction},
-        {BtnWakeupFreq3, Frame_Alarm_WakeupFreq3BtnAction},
-    };
-    for (const auto& row : table)
-        if (row.button) row.button->InitButtonAction(row.action, this);
-}
-
 // Back's target depends on the page, so Back is registered again on every page change.
 void Frame_Alarm::InitBackBtnToMainMenuInterWorking() {
     if (BtnBack) BtnBack->InitButtonAction(Frame_Alarm_BackToMainMenuBtnAction, this);
@@ -247,16 +222,12 @@ void Frame_Alarm_WakeupTimeSetBtnAction(void* context, Button*) {
     KeyboardNavigation::FocusIfKeyboardInUse(s->BtnWakeupTime);
 }
 
-void Frame_Alarm_WakeupFreq1BtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context)) s->flow.ChooseFrequency(0);
-}
-
-void Frame_Alarm_WakeupFreq2BtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context)) s->flow.ChooseFrequency(1);
-}
-
-void Frame_Alarm_WakeupFreq3BtnAction(void* context, Button*) {
-    if (Frame_Alarm* s = Screen(context)) s->flow.ChooseFrequency(2);
+void Frame_Alarm_WakeupFreqBtnAction(void* context, Button* button) {
+    Frame_Alarm* s = Screen(context);
+    if (!s) return;
+    const Button* const frequencies[] = {s->BtnWakeupFreq1, s->BtnWakeupFreq2, s->BtnWakeupFreq3};
+    for (qint32 type = 0; type < 3; ++type)
+        if (frequencies[type] == button) s->flow.ChooseFrequency(type);
 }
 
 void Frame_Alarm_BackToChooseBtnAction(void* context, Button*) {

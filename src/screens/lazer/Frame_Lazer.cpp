@@ -28,50 +28,48 @@ Frame_Lazer::Frame_Lazer(const NSRect& frame) : NSViewS(frame) {
 void Frame_Lazer::InitView() {
     const QColor grey = NSColor::grayColor();
     const QColor orange = NSColor::orangeColor();
-
-    Layout::Build(this,
-                  {
-                      {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "scenario_bg"},
-                      Layout::SilverButton(&BtnBack, MakeNSRect(714, 711, 85, 40),
-                                           {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16},
-                                           false, Frame_Lazer_SoundBtnAcion),
-                      {.image = &txtLazerDescription,
-                       .frame = MakeNSRect(242, 92, 213, 155),
-                       .caption = {"Choose the robot\nconfiguration you\nhave built.", orange,
-                                   MakeNSRect(0, 0, 209, 76), 16}},
-                      {.image = &txtSiteTitle,
-                       .frame = MakeNSRect(490, 93, 160, 20),
-                       .caption = {"Program/Modify", grey, MakeNSRect(0, 0, 160, 18), 16}},
-                      {.image = &txtLazerTitle,
-                       .frame = MakeNSRect(104, 314, 341, 25),
-                       .caption = {"Robot configuration", orange, MakeNSRect(0, 0, 341, 25), 16}},
-                      Configuration(&BtnLazer1, 117, "normal_1", "enter_1", "selected_1",
-                                    "Robot configuration 1", Frame_Lazer_BtnLazer1BtnAcion),
-                      Configuration(&BtnLazer2, 227, "normal_2", "enter_2", "selected_2",
-                                    "Robot configuration 2", Frame_Lazer_BtnLazer2BtnAcion),
-                      Configuration(&BtnLazer3, 337, "normal_3", "enter_3", "selected_3",
-                                    "Robot configuration 3", Frame_Lazer_BtnLazer3BtnAcion),
-                      // The "Lazer" tag lies beneath the tabs.
-                      {.image = &txtLazerTag,
-                       .frame = MakeNSRect(717, 222, 78, 25),
-                       .caption = {"Lazer", orange, MakeNSRect(0, 0, 78, 25), 18}},
-                  });
     // The screen's own tab keeps the do-nothing action: pressing it only flickers it.
-    Layout::BuildTabs(this, {.fields = {&BtnMoveMent, &BtnSound, &BtnLazer, &BtnFace, &BtnPlay},
-                             .x = {528, 594, 660, 800, 875},
-                             .current = Layout::Tab::Lazer,
-                             .actions = {Frame_Lazer_MovementBtnAcion, Frame_Lazer_SoundBtnAcion, nullptr,
-                                         Frame_Lazer_BtnFaceBtnAcion, Frame_Lazer_BtnPlayBtnAcion}});
-
-    Layout::Build(this, {
-                            {.image = &txtAnimation,
-                             .frame = MakeNSRect(525, 297, 134, 25),
-                             .caption = {"Lazer animation", grey, MakeNSRect(0, 0, 78, 25), 14}},
-                            {.image = &imgLazerType,
-                             .frame = MakeNSRect(540, 326, LazerPicture::kWidth, LazerPicture::kHeight),
-                             .up = LazerPicture::Name(configuration.LazerType()),
-                             .type = LazerPicture::kType},
-                        });
+    Layout::BuildEditor(
+        this,
+        {.background = &imgBackGround,
+         .tabs = {.fields = {&BtnMoveMent, &BtnSound, &BtnLazer, &BtnFace, &BtnPlay},
+                  .x = {528, 594, 660, 800, 875},
+                  .current = Layout::Tab::Lazer,
+                  .actions = {Frame_Lazer_MovementBtnAcion, Frame_Lazer_SoundBtnAcion, nullptr,
+                              Frame_Lazer_BtnFaceBtnAcion, Frame_Lazer_BtnPlayBtnAcion}},
+         .back = Layout::SilverButton(&BtnBack, MakeNSRect(714, 711, 85, 40),
+                                      {"Back", NSColor::blackColor(), MakeNSRect(10, 10, 85, 40), 16}, false,
+                                      Frame_Lazer_SoundBtnAcion)},
+        {
+            {.image = &txtLazerDescription,
+             .frame = MakeNSRect(242, 92, 213, 155),
+             .caption = {"Choose the robot\nconfiguration you\nhave built.", orange,
+                         MakeNSRect(0, 0, 209, 76), 16}},
+            {.image = &txtSiteTitle,
+             .frame = MakeNSRect(490, 93, 160, 20),
+             .caption = {"Program/Modify", grey, MakeNSRect(0, 0, 160, 18), 16}},
+            {.image = &txtLazerTitle,
+             .frame = MakeNSRect(104, 314, 341, 25),
+             .caption = {"Robot configuration", orange, MakeNSRect(0, 0, 341, 25), 16}},
+            Configuration(&BtnLazer1, 117, "normal_1", "enter_1", "selected_1", "Robot configuration 1",
+                          Frame_Lazer_BtnLazer1BtnAcion),
+            Configuration(&BtnLazer2, 227, "normal_2", "enter_2", "selected_2", "Robot configuration 2",
+                          Frame_Lazer_BtnLazer2BtnAcion),
+            Configuration(&BtnLazer3, 337, "normal_3", "enter_3", "selected_3", "Robot configuration 3",
+                          Frame_Lazer_BtnLazer3BtnAcion),
+            {.image = &txtLazerTag,
+             .frame = MakeNSRect(717, 222, 78, 25),
+             .caption = {"Lazer", orange, MakeNSRect(0, 0, 78, 25), 18}},
+        },
+        {
+            {.image = &txtAnimation,
+             .frame = MakeNSRect(525, 297, 134, 25),
+             .caption = {"Lazer animation", grey, MakeNSRect(0, 0, 78, 25), 14}},
+            {.image = &imgLazerType,
+             .frame = MakeNSRect(540, 326, LazerPicture::kWidth, LazerPicture::kHeight),
+             .up = LazerPicture::Name(configuration.LazerType()),
+             .type = LazerPicture::kType},
+        });
 }
 
 void Frame_Lazer::ShowLazerType() {

@@ -16,10 +16,13 @@ const char* const kProgramText = "Program scenario";
 const char* const kAlarmText = "Alarm/Clock";
 const char* const kSyncText = "Synchronization";
 
+// Pointed at, a menu button's caption turns white; left, orange again.
 Layout::Row MenuButton(Button** field, qint32 y, const char* family, const char* name, bool hidden) {
     Layout::Row row = Layout::Family(field, MakeNSRect(607, y, 250, 93), family, "_normal_menus",
                                      "_focused_menus", "_selected_menus", name);
     row.hidden = hidden;
+    row.entered = Frame_MainMenu_MenuBtnEntered;
+    row.exited = Frame_MainMenu_MenuBtnExited;
     return row;
 }
 
@@ -52,17 +55,6 @@ Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
         imgRobot->setFrame(frame);
         imgRobot->update();
     });
-
-    InitInterWorking();
-}
-
-void Frame_MainMenu::InitInterWorking() {
-    BtnProgram->InitButtonEntered(Frame_MainMenu_ProgramBtnEntered, this);
-    BtnAlarm->InitButtonEntered(Frame_MainMenu_AlarmBtnEntered, this);
-    BtnSync->InitButtonEntered(Frame_MainMenu_SyncBtnEntered, this);
-    BtnProgram->InitButtonExited(Frame_MainMenu_ProgramBtnExited, this);
-    BtnAlarm->InitButtonExited(Frame_MainMenu_AlarmBtnExited, this);
-    BtnSync->InitButtonExited(Frame_MainMenu_SyncBtnExited, this);
 }
 
 void Frame_MainMenu::ButtonTrackingOn() {
@@ -77,34 +69,26 @@ void Frame_MainMenu::ButtonTrackingOn() {
     Layout::SetCaption(BtnSetting, {"Settings", NSColor::blackColor(), MakeNSRect(6, 10, 85, 40), 14});
 }
 
-void Frame_MainMenu_ProgramBtnEntered(void* context, Button*) {
-    if (Frame_MainMenu* menu = Menu(context))
-        Layout::SetCaption(menu->BtnProgram, MenuCaption(kProgramText, NSColor::whiteColor()));
+namespace {
+
+// The caption of a menu button, in `color`; nothing for a button that is not one of the three.
+void MenuCaptionIn(void* context, const Button* button, const QColor& color) {
+    Frame_MainMenu* menu = Menu(context);
+    if (!menu) return;
+    const std::pair<Button*, const char*> buttons[] = {
+        {menu->BtnProgram, kProgramText}, {menu->BtnAlarm, kAlarmText}, {menu->BtnSync, kSyncText}};
+    for (const auto& [field, text] : buttons)
+        if (field == button) Layout::SetCaption(field, MenuCaption(text, color));
 }
 
-void Frame_MainMenu_AlarmBtnEntered(void* context, Button*) {
-    if (Frame_MainMenu* menu = Menu(context))
-        Layout::SetCaption(menu->BtnAlarm, MenuCaption(kAlarmText, NSColor::whiteColor()));
+} // namespace
+
+void Frame_MainMenu_MenuBtnEntered(void* context, Button* button) {
+    MenuCaptionIn(context, button, NSColor::whiteColor());
 }
 
-void Frame_MainMenu_SyncBtnEntered(void* context, Button*) {
-    if (Frame_MainMenu* menu = Menu(context))
-        Layout::SetCaption(menu->BtnSync, MenuCaption(kSyncText, NSColor::whiteColor()));
-}
-
-void Frame_MainMenu_ProgramBtnExited(void* context, Button*) {
-    if (Frame_MainMenu* menu = Menu(context))
-        Layout::SetCaption(menu->BtnProgram, MenuCaption(kProgramText, NSColor::orangeColor()));
-}
-
-void Frame_MainMenu_AlarmBtnExited(void* context, Button*) {
-    if (Frame_MainMenu* menu = Menu(context))
-        Layout::SetCaption(menu->BtnAlarm, MenuCaption(kAlarmText, NSColor::orangeColor()));
-}
-
-void Frame_MainMenu_SyncBtnExited(void* context, Button*) {
-    if (Frame_MainMenu* menu = Menu(context))
-        Layout::SetCaption(menu->BtnSync, MenuCaption(kSyncText, NSColor::orangeColor()));
+void Frame_MainMenu_MenuBtnExited(void* context, Button* button) {
+    MenuCaptionIn(context, button, NSColor::orangeColor());
 }
 
 void Frame_MainMenu_ScenarioBtnAcion(void* context, Button*) {

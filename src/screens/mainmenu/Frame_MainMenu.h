@@ -10,7 +10,6 @@ class Frame_MainMenu : public NSViewS {
 public:
     explicit Frame_MainMenu(const NSRect& frame);
 
-    void InitInterWorking();
     // Shows the menu buttons, registers their hover and puts their captions back in their
     // normal colours; every call does all of it again.
     void ButtonTrackingOn() override;
@@ -27,9 +26,6 @@ public:
 
 void Frame_MainMenu_ScenarioBtnAcion(void* context, Button* button);
 void Frame_MainMenu_AlarmBtnAcion(void* context, Button* button);
-void Frame_MainMenu_ProgramBtnEntered(void* context, Button* button);
-void Frame_MainMenu_AlarmBtnEntered(void* context, Button* button);
-void Frame_MainMenu_SyncBtnEntered(void* context, Button* button);
-void Frame_MainMenu_ProgramBtnExited(void* context, Button* button);
-void Frame_MainMenu_AlarmBtnExited(void* context, Button* button);
-void Frame_MainMenu_SyncBtnExited(void* context, Button* button);
+// The three menu buttons share these two, which know the button by the one they are given.
+void Frame_MainMenu_MenuBtnEntered(void* context, Button* button);
+void Frame_MainMenu_MenuBtnExited(void* context, Button* button);

@@ -38,76 +38,59 @@ const Brick kBricks[] = {
 } // namespace
 
 Frame_MoveMent::Frame_MoveMent(const NSRect& frame) : NSViewS(frame) {
-    Layout::Build(this,
-                  {
-                      {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "scenario_bg"},
-                  });
-    TextInit();
-    ButtonInit();
-    InitInterWorking();
-    InitPathFrame();
-}
-
-void Frame_MoveMent::TextInit() {
     const QColor orange = NSColor::orangeColor();
-    // clang-format off
-    Layout::Build(this, {
-        {.image = &txtString[0], .frame = MakeNSRect(238, 69, 206, 137),
-         .caption = {"Click on bricks to\nbuild my movement. You\ncan also add movement\nof existing scenarios.",
-                     orange, MakeNSRect(0, 0, 206, 137), kCaptionSize}},
-        {.image = &txtString[1], .frame = MakeNSRect(488, 90, 89, 25),
-         .caption = {"Program/", orange, MakeNSRect(0, 0, 89, 25), kCaptionSize}},
-        {.image = &txtString[2], .frame = MakeNSRect(561, 219, 103, 25),
-         .caption = {"Movement", orange, MakeNSRect(0, 0, 103, 25), kCaptionSize}},
-        {.image = &txtString[3], .frame = MakeNSRect(106, 292, 140, 24),
-         .caption = {"Movement bricks", orange, MakeNSRect(0, 0, 140, 24), kCaptionSize}},
-        {.image = &txtString[4], .frame = MakeNSRect(106, 587, 119, 22),
-         .caption = {"Movements of", orange, MakeNSRect(0, 0, 119, 22), kCaptionSize}},
-    });
-    // clang-format on
-}
-
-void Frame_MoveMent::ButtonInit() {
-    Layout::Build(this, {Layout::HelpButton(&BtnQuestion, MakeNSRect(57, 37, 29, 28))});
-    Layout::BuildTabs(this, {.fields = {&BtnMoveMent, &BtnSound, &BtnLazer, &BtnFace, &BtnPlay},
-                             .x = {498, 663, 733, 802, 873},
-                             .current = Layout::Tab::Movement});
-
-    for (const Brick& brick : kBricks) {
-        Button** field = &(this->*brick.field);
-        *field = Layout::MakeButton(this,
-                                    Layout::Family(field, MakeNSRect(brick.x, brick.y, 62, 62), brick.picture,
-                                                   "_common", "_focus", "_focus", brick.name));
-    }
-
+    const auto text = [orange](NSImageViewS** field, qint32 x, qint32 y, qint32 w, qint32 h,
+                               const char* text) {
+        return Layout::Row{.image = field,
+                           .frame = MakeNSRect(x, y, w, h),
+                           .caption = {text, orange, MakeNSRect(0, 0, w, h), kCaptionSize}};
+    };
     const auto arrow = [](Button** field, qint32 x, qint32 y, const char* picture, const char* name) {
         return Layout::Family(field, MakeNSRect(x, y, 36, 38), picture, "_common", "_focus", "_focus", name);
     };
     const Layout::Caption erase{"Erase", NSColor::grayColor(), MakeNSRect(22, 11, 46, 18), kCaptionSize};
     const Layout::Caption back{"Back", NSColor::blackColor(), MakeNSRect(17, 11, 50, 16), kCaptionSize};
-    Layout::Build(this,
-                  {
-                      Layout::Family(&BtnSelectBar, MakeNSRect(100, 612, 344, 44), "SelectBarArrow",
-                                     "_common", "_focus", "_focus", "Choose scenario"),
-                      // The small arrows: a second cross, partly under the path view.
-                      arrow(&BtnArrowUp, 867, 586, "ButtonSmallCircleUp", "Arrow up"),
-                      arrow(&BtnArrowLeft, 835, 609, "ButtonSmallCircleLeft", "Arrow left"),
-                      arrow(&BtnArrowDown, 867, 632, "ButtonSmallCircleDown", "Arrow down"),
-                      arrow(&BtnArrowRight, 898, 609, "ButtonSmallCircleRight", "Arrow right"),
-                      Layout::Family(&BtnErase, MakeNSRect(515, 712, 93, 40), "but_common_long_left_",
-                                     "BtnSilver", "over_BtnSilver", "over_BtnSilver", nullptr, erase),
-                      Layout::Family(&BtnRetPlay, MakeNSRect(606, 712, 93, 40), "but_common_long_right_",
-                                     "BtnSilver", "over_BtnSilver", "over_BtnSilver", "Replay"),
-                      Layout::SilverButton(&BtnBack, MakeNSRect(715, 712, 85, 40), back),
-                  });
-}
 
-void Frame_MoveMent::InitInterWorking() {
-    BtnSound->InitButtonAction(Frame_Movement_SoundBtnAcion, this);
-    BtnBack->InitButtonAction(Frame_Movement_BackBtnAcion, this);
+    QList<Layout::Row> controls;
+    for (const Brick& brick : kBricks) {
+        controls << Layout::Family(&(this->*brick.field), MakeNSRect(brick.x, brick.y, 62, 62), brick.picture,
+                                   "_common", "_focus", "_focus", brick.name);
+        controls.last().action = brick.action;
+    }
+    controls << QList<Layout::Row>{
+        Layout::Family(&BtnSelectBar, MakeNSRect(100, 612, 344, 44), "SelectBarArrow", "_common", "_focus",
+                       "_focus", "Choose scenario"),
+        // The small arrows: a second cross, partly under the path view.
+        arrow(&BtnArrowUp, 867, 586, "ButtonSmallCircleUp", "Arrow up"),
+        arrow(&BtnArrowLeft, 835, 609, "ButtonSmallCircleLeft", "Arrow left"),
+        arrow(&BtnArrowDown, 867, 632, "ButtonSmallCircleDown", "Arrow down"),
+        arrow(&BtnArrowRight, 898, 609, "ButtonSmallCircleRight", "Arrow right"),
+        Layout::Family(&BtnErase, MakeNSRect(515, 712, 93, 40), "but_common_long_left_", "BtnSilver",
+                       "over_BtnSilver", "over_BtnSilver", nullptr, erase),
+        Layout::Family(&BtnRetPlay, MakeNSRect(606, 712, 93, 40), "but_common_long_right_", "BtnSilver",
+                       "over_BtnSilver", "over_BtnSilver", "Replay"),
+    };
+    Layout::BuildEditor(
+        this,
+        {.background = &imgBackGround,
+         .help = &BtnQuestion,
+         .tabs = {.fields = {&BtnMoveMent, &BtnSound, &BtnLazer, &BtnFace, &BtnPlay},
+                  .x = {498, 663, 733, 802, 873},
+                  .current = Layout::Tab::Movement,
+                  .actions = {nullptr, Frame_Movement_SoundBtnAcion, Frame_Movement_LazerBtnAcion}},
+         .back = Layout::SilverButton(&BtnBack, MakeNSRect(715, 712, 85, 40), back, false,
+                                      Frame_Movement_BackBtnAcion)},
+        {
+            text(&txtString[0], 238, 69, 206, 137,
+                 "Click on bricks to\nbuild my movement. You\ncan also add movement\nof existing scenarios."),
+            text(&txtString[1], 488, 90, 89, 25, "Program/"),
+            text(&txtString[2], 561, 219, 103, 25, "Movement"),
+            text(&txtString[3], 106, 292, 140, 24, "Movement bricks"),
+            text(&txtString[4], 106, 587, 119, 22, "Movements of"),
+        },
+        controls);
     KeyboardNavigation::EscapePresses(BtnBack);
-    BtnLazer->InitButtonAction(Frame_Movement_LazerBtnAcion, this);
-    for (const Brick& brick : kBricks) (this->*brick.field)->InitButtonAction(brick.action, this);
+    InitPathFrame();
 }
 
 void Frame_MoveMent::InitPathFrame() {

@@ -56,10 +56,7 @@ public:
     NSImageViewS* PathImg[PathPlacement::kMaxPieces] = {}; // the view of each piece of PathInfo
 
 private:
-    // Construction steps, in this order; the path view comes last so it lies above everything.
-    void TextInit();
-    void ButtonInit();
-    void InitInterWorking();
+    // The path view comes last so it lies above everything.
     void InitPathFrame();
 
     // Makes the view of the piece the path has just added, if it added one.

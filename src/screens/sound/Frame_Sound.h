@@ -39,9 +39,6 @@ public:
 
     explicit Frame_Sound(const NSRect& frame);
 
-    void TextInit();
-    void ButtonInit();
-    void InitInterWorking();
     // Hover registrations of the screen's buttons, made after the screen is shown.
     void ButtonTrackingOn() override;
     void InitSoundContent();
