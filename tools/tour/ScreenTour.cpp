@@ -1,6 +1,5 @@
 #include "ScreenTour.h"
 
-#include "AppHarness.h"
 #include "Button.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
@@ -10,6 +9,7 @@
 #include "Frame_MoveMent.h"
 #include "Frame_Scenario.h"
 #include "Frame_Sound.h"
+#include "TourWindow.h"
 
 #include <QDateTimeEdit>
 #include <QLineEdit>
@@ -22,7 +22,7 @@ namespace {
 const QPoint kPark(400, 20);
 } // namespace
 
-ScreenTour::ScreenTour(AppHarness& app, const QDir& folder) : m_app(app), m_folder(folder) {}
+ScreenTour::ScreenTour(TourWindow& app, const QDir& folder) : m_app(app), m_folder(folder) {}
 
 bool ScreenTour::fail(const QString& why) {
     m_error = why;

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-class AppHarness;
+class TourWindow;
 class Button;
 class QDateTimeEdit;
 
@@ -12,7 +12,7 @@ class QDateTimeEdit;
 // clicks, with one screenshot per stop.
 class ScreenTour {
 public:
-    ScreenTour(AppHarness& app, const QDir& folder);
+    ScreenTour(TourWindow& app, const QDir& folder);
 
     // Walks the whole tour; false (with the reason in error()) when a stop could not be reached.
     bool run();
@@ -32,7 +32,7 @@ private:
     bool save(const QString& file);
     bool fail(const QString& why);
 
-    AppHarness& m_app;
+    TourWindow& m_app;
     QDir m_folder;
     QStringList m_written;
     QString m_error;
