@@ -10,6 +10,7 @@ PACKAGES=(
     fonts-urw-base35
     tzdata
     xvfb xauth xdotool x11-utils strace
+    dbus-daemon at-spi2-core python3-pyatspi
     desktop-file-utils appstream
     "$@"
 )

@@ -1,5 +1,6 @@
 #include "NSApplicationMain.h"
 
+#include "ButtonAccessible.h"
 #include "Frame_Control.h"
 #include "ScreenFit.h"
 #include "ui_MainWindow.h"
@@ -27,6 +28,8 @@ int NSApplicationMain(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.robotcompanion.robotcompanion"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.robotcompanion.robotcompanion"),
                                                  QIcon(QStringLiteral(":/pictures/logo_main.png"))));
+    // Before any view exists: a reader asks for each one as it is made.
+    ButtonAccessible::Install();
     std::unique_ptr<QWidget> window = LoadMainWindow();
     ScreenFit fit(window.get());
     fit.show();

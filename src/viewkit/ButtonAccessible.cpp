@@ -1,7 +1,10 @@
 #include "ButtonAccessible.h"
 
+#include "ApplicationAccessible.h"
 #include "Button.h"
 #include "CaptionAccessible.h"
+#include "KeyboardNavigation.h"
+#include "WindowAccessible.h"
 
 #include <QWidget>
 
@@ -12,25 +15,31 @@ QAccessibleInterface* Factory(const QString& className, QObject* object) {
         if (auto* button = qobject_cast<Button*>(object)) return new ButtonAccessible(button);
     } else if (className == QLatin1String("NSImageViewS")) {
         if (auto* view = qobject_cast<NSImageViewS*>(object)) return new CaptionAccessible(view);
-    } else if (className == QLatin1String("QWidget")) {
-        // The application's window is a plain widget made from the interface file: to assistive
-        // technology a window (a frame on AT-SPI), named by its title.
+    } else if (className == QLatin1String("NSViewS")) {
+        if (auto* view = qobject_cast<NSViewS*>(object)) return new ViewAccessible(view);
+    } else if (className == QLatin1String("QWidget") || className == QLatin1String("QGraphicsView")) {
+        // The application's window is a plain widget made from the interface file, or the view that
+        // shows it scaled: to assistive technology one window (a frame on AT-SPI), named by its title.
         auto* widget = qobject_cast<QWidget*>(object);
-        if (widget && widget->isWindow()) return new QAccessibleWidget(widget, QAccessible::Window);
+        if (widget && widget->isWindow()) return new WindowAccessible(widget);
+    } else if (className == QLatin1String("QApplication")) {
+        return new ApplicationAccessible(object);
     }
     return nullptr;
 }
 
 } // namespace
 
-ButtonAccessible::ButtonAccessible(Button* button) : QAccessibleWidget(button, QAccessible::Button) {}
+ButtonAccessible::ButtonAccessible(Button* button) : ViewAccessible(button, QAccessible::Button) {}
 
 Button* ButtonAccessible::button() const {
     return static_cast<Button*>(widget());
 }
 
 QAccessible::Role ButtonAccessible::role() const {
-    return QAccessible::Button;
+    // One of a set: what readers speak as a choice, with its state. Qt's bridge has no toggle
+    // button role, so an on/off pair is two radio buttons, which is what it shows.
+    return button()->choice() == Button::Choice::Check ? QAccessible::RadioButton : QAccessible::Button;
 }
 
 QAccessible::State ButtonAccessible::state() const {
@@ -66,7 +75,9 @@ void ButtonAccessible::doAction(const QString& actionName) {
         QAccessibleWidget::doAction(actionName);
         return;
     }
-    button()->click();
+    // A press from assistive technology is one from the keyboard: the focus follows into what it
+    // opens, and the ring shows where it is.
+    KeyboardNavigation::Press(button());
 }
 
 QStringList ButtonAccessible::keyBindingsForAction(const QString&) const {

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QAccessibleWidget>
+#include "ViewAccessible.h"
 
 class Button;
 
 // What assistive technologies see of a Button: a push button named by what it says or shows,
-// focusable while it is enabled, checked or selected where its pictures show a choice, whose
+// focusable while it is enabled, a radio button where its pictures show one choice of a set
+// (checked or not), selected where they show the item chosen in a list, whose
 // press action does exactly what a click does, so the whole application can be worked without
 // a mouse.
-class ButtonAccessible : public QAccessibleWidget {
+class ButtonAccessible : public ViewAccessible {
 public:
     explicit ButtonAccessible(Button* button);
 
@@ -25,8 +26,8 @@ public:
     // A caption as read aloud: its lines joined by single spaces.
     static QString OneLine(const QString& caption);
 
-    // Makes Qt use these interfaces (and the caption views' and the window's); called by every new Button,
-    // does its work once.
+    // Makes Qt use these interfaces (and those of the views, the windows and the application); called
+    // by every new Button, does its work once.
     static void Install();
 
 private:

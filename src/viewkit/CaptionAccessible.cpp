@@ -3,7 +3,7 @@
 #include "ButtonAccessible.h"
 #include "NSImageViewS.h"
 
-CaptionAccessible::CaptionAccessible(NSImageViewS* view) : QAccessibleWidget(view) {}
+CaptionAccessible::CaptionAccessible(NSImageViewS* view) : ViewAccessible(view) {}
 
 NSImageViewS* CaptionAccessible::view() const {
     return static_cast<NSImageViewS*>(widget());
@@ -18,5 +18,5 @@ QString CaptionAccessible::text(QAccessible::Text t) const {
         if (!view()->accessibleName().isEmpty()) return view()->accessibleName();
         return ButtonAccessible::OneLine(view()->captionText());
     }
-    return QAccessibleWidget::text(t);
+    return ViewAccessible::text(t);
 }

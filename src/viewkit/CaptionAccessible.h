@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QAccessibleWidget>
+#include "ViewAccessible.h"
 
 class NSImageViewS;
 
 // What assistive technologies see of a picture view: its caption as static text (titles,
 // descriptions, the timeline's numbers), or an unnamed graphic when it has none.
-class CaptionAccessible : public QAccessibleWidget {
+class CaptionAccessible : public ViewAccessible {
 public:
     explicit CaptionAccessible(NSImageViewS* view);
 

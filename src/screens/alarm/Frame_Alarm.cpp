@@ -5,6 +5,7 @@
 #include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
+#include "ViewAccessible.h"
 
 #include <QDateEdit>
 #include <QTimeEdit>
@@ -27,9 +28,10 @@ Layout::Caption Orange(const char* text, int w, int h) {
 
 // The two button families of the screen, captioned in white at (8, 8): "Btn01" for On, Off and
 // Set, "Btn02" for the values and the frequencies; "Btn03" for the statuses, captioned by Refresh.
-Layout::Row Btn01(Button** field, int x, int y, const char* up, const char* text, ButtonCallback action) {
+Layout::Row Btn01(Button** field, int x, int y, const char* up, const char* text, ButtonCallback action,
+                  const char* name = nullptr) {
     Layout::Row row =
-        Layout::Family(field, MakeNSRect(x, y, 111, 46), "but_", up, "over_Btn01", "selected_Btn01", nullptr,
+        Layout::Family(field, MakeNSRect(x, y, 111, 46), "but_", up, "over_Btn01", "selected_Btn01", name,
                        {text, NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16});
     row.action = action;
     return row;
@@ -48,8 +50,10 @@ Layout::Row Btn03(Button** field, int y, ButtonCallback action) {
     return row;
 }
 
-NSViewS* AddPage(NSViewS* screen, const NSRect& frame) {
+// A page is named for assistive technology, which speaks the name as the focus enters it.
+NSViewS* AddPage(NSViewS* screen, const NSRect& frame, const char* name = nullptr) {
     auto* page = new NSViewS(frame);
+    if (name) page->setAccessibleName(QString::fromUtf8(name));
     screen->addSubview(page);
     return page;
 }
@@ -57,6 +61,7 @@ NSViewS* AddPage(NSViewS* screen, const NSRect& frame) {
 } // namespace
 
 Frame_Alarm::Frame_Alarm(const NSRect& frame) : NSViewS(frame), flow(WallClockNow()) {
+    setAccessibleName(QStringLiteral("Alarm"));
     Layout::Build(this,
                   {
                       {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "common_bg"},
@@ -95,7 +100,7 @@ void Frame_Alarm::InitView() {
 }
 
 void Frame_Alarm::InitChooseView() {
-    frmChooseView = AddPage(this, MakeNSRect(91, 295, 340, 154));
+    frmChooseView = AddPage(this, MakeNSRect(91, 295, 340, 154), "Alarm: choose");
     Layout::Build(frmChooseView,
                   {
                       {.image = &txtChooseTitle,
@@ -108,14 +113,16 @@ void Frame_Alarm::InitChooseView() {
 }
 
 void Frame_Alarm::InitBirthdayControlView() {
-    frmBirthdayControlView = AddPage(this, MakeNSRect(91, 308, 363, 89));
+    frmBirthdayControlView = AddPage(this, MakeNSRect(91, 308, 363, 89), "Alarm: birthday");
     Layout::Build(frmBirthdayControlView,
                   {
                       {.image = &txtCheckTimeDateTitle,
                        .frame = MakeNSRect(33, 6, 250, 19),
                        .caption = Orange("Check the time and date:", 250, 19)},
-                      Btn01(&BtnBirthdayOn, 33, 32, "normal_Btn01", "On", Frame_Alarm_BirthOnBtnAction),
-                      Btn01(&BtnBirthdayOff, 144, 32, "selected_Btn01", "Off", Frame_Alarm_BirthOffBtnAction),
+                      Btn01(&BtnBirthdayOn, 33, 32, "normal_Btn01", "On", Frame_Alarm_BirthOnBtnAction,
+                            "Birthday alarm, On"),
+                      Btn01(&BtnBirthdayOff, 144, 32, "selected_Btn01", "Off", Frame_Alarm_BirthOffBtnAction,
+                            "Birthday alarm, Off"),
                   },
                   this);
 }
@@ -185,12 +192,14 @@ void Frame_Alarm::InitBirthTimeDateButtonView() {
 }
 
 void Frame_Alarm::InitWakeupControlView() {
-    frmWakeupControlView = AddPage(this, MakeNSRect(102, 313, 350, 72));
+    frmWakeupControlView = AddPage(this, MakeNSRect(102, 313, 350, 72), "Alarm: wake-up");
     Layout::Build(frmWakeupControlView,
                   {
                       {.image = &txtWakeupTitle, .frame = MakeNSRect(0, 0, 350, 19)},
-                      Btn01(&BtnWakeupOn, 22, 28, "selected_Btn01", "On", Frame_Alarm_WakeupOnBtnAction),
-                      Btn01(&BtnWakeupOff, 133, 28, "disabled_Btn01", "Off", Frame_Alarm_WakeupOffBtnAction),
+                      Btn01(&BtnWakeupOn, 22, 28, "selected_Btn01", "On", Frame_Alarm_WakeupOnBtnAction,
+                            "Wake up alarm, On"),
+                      Btn01(&BtnWakeupOff, 133, 28, "disabled_Btn01", "Off", Frame_Alarm_WakeupOffBtnAction,
+                            "Wake up alarm, Off"),
                   },
                   this);
 }
@@ -218,7 +227,9 @@ void Frame_Alarm::InitWakeupTimeFreqButtonView() {
 }
 
 void Frame_Alarm::InitDoneView() {
-    frmDoneView = AddPage(this, MakeNSRect(0, 0, 1024, 768));
+    frmDoneView = AddPage(this, MakeNSRect(0, 0, 1024, 768), "Alarm: confirmation");
+    // Shown, an alert: readers announce it with the text it holds.
+    ViewAccessible::SetRole(frmDoneView, QAccessible::AlertMessage);
     Layout::Build(frmDoneView,
                   {
                       {.image = &imgDoneBackGround,

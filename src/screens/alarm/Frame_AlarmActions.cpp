@@ -36,8 +36,12 @@ void Caption(NSImageViewS* view, const char* text, const QColor& color, NSRect l
     Layout::SetCaption(view, {text, color, loc, size});
 }
 
-void Caption(NSImageViewS* view, const QString& text, NSRect loc) {
-    if (view) view->InitText(text, NSColor::whiteColor(), 0, loc, QString::fromLatin1(Layout::kFontName), 16);
+// A value's button: the value as its caption, and as its name with the label it is read by.
+void Value(Button* button, const char* label, const QString& text) {
+    button->InitText(text, NSColor::whiteColor(), 0, MakeNSRect(8, 8, 180, 46),
+                     QString::fromLatin1(Layout::kFontName), 16);
+    button->setAccessibleName(text.isEmpty() ? QString::fromUtf8(label)
+                                             : label + QStringLiteral(", ") + text);
 }
 
 // New pictures only where the look changes: setting them again would also drop a hover look.
@@ -111,10 +115,9 @@ void Frame_Alarm::Refresh() {
     Caption(txtDoneMessage, wakeupConfirmed ? kWakeupMessage : kBirthdayMessage, NSColor::orangeColor(),
             MakeNSRect(0, 0, 155, 110), 14);
 
-    const NSRect valueLoc = MakeNSRect(8, 8, 180, 46);
-    Caption(BtnBirthDate, flow.formattedBirthDateString(), valueLoc);
-    Caption(BtnBirthTime, flow.formattedBirthTimeString(), valueLoc);
-    Caption(BtnWakeupTime, flow.formattedWakeupTimeString(), valueLoc);
+    Value(BtnBirthDate, "Birthday date", flow.formattedBirthDateString());
+    Value(BtnBirthTime, "Birthday time", flow.formattedBirthTimeString());
+    Value(BtnWakeupTime, "Wake up time", flow.formattedWakeupTimeString());
 
     SetOnOffLooks(BtnBirthdayOn, BtnBirthdayOff, flow.enableBirthday(), flow.birthdaySwitched());
     SetOnOffLooks(BtnWakeupOn, BtnWakeupOff, flow.enableWakeup(), true);

@@ -18,6 +18,7 @@ Layout::Row Configuration(Button** field, qint32 x, const char* up, const char* 
 } // namespace
 
 Frame_Lazer::Frame_Lazer(const NSRect& frame) : NSViewS(frame) {
+    setAccessibleName(QStringLiteral("Laser"));
     InitView();
     ButtonTrackingOn();
     KeyboardNavigation::EscapePresses(BtnBack);
@@ -78,7 +79,7 @@ void Frame_Lazer::ShowLazerType() {
                             LazerPicture::kHeight, this);
     Button* const configurations[] = {BtnLazer1, BtnLazer2, BtnLazer3};
     for (qint32 i = 0; i < LazerConfiguration::kCount; ++i)
-        configurations[i]->setChoice(Button::Choice::Select, i == type);
+        configurations[i]->setChoice(Button::Choice::Check, i == type);
 }
 
 void Frame_Lazer::ButtonTrackingOn() {

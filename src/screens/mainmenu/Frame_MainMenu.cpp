@@ -33,6 +33,7 @@ Frame_MainMenu* Menu(void* context) {
 } // namespace
 
 Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
+    setAccessibleName(QStringLiteral("Main menu"));
     // The menu waits for the robot.
     const bool waiting = !robotSlide.hasArrived();
     Layout::Build(this,

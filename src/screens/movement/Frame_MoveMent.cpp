@@ -38,6 +38,7 @@ const Brick kBricks[] = {
 } // namespace
 
 Frame_MoveMent::Frame_MoveMent(const NSRect& frame) : NSViewS(frame) {
+    setAccessibleName(QStringLiteral("Movement"));
     const QColor orange = NSColor::orangeColor();
     const auto text = [orange](NSImageViewS** field, qint32 x, qint32 y, qint32 w, qint32 h,
                                const char* text) {

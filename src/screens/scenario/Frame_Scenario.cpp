@@ -44,6 +44,7 @@ Layout::Row ListButton(Button** field, qint32 x, const char* base, const char* u
 } // namespace
 
 Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
+    setAccessibleName(QStringLiteral("Scenario"));
     Layout::Build(
         this,
         {

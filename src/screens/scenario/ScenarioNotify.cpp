@@ -8,8 +8,9 @@ ScenarioNotify::ScenarioNotify(QObject* parent) : QObject(parent) {}
 
 void ScenarioNotify::setDelegateOf(QLineEdit* field) {
     if (!field) return;
-    // textEdited, not textChanged: only the user's own edits count.
-    connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
+    // Every change counts, not only typing (textEdited): a screen reader inserts text through the
+    // field's setText. The code itself never changes the field's text.
+    connect(field, &QLineEdit::textChanged, this, [this, field] { controlTextDidChange(field); });
 }
 
 void ScenarioNotify::controlTextDidChange(const QLineEdit* field) {

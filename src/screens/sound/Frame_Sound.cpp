@@ -26,6 +26,7 @@ Layout::Row WithAction(Layout::Row row, ButtonCallback action) {
 } // namespace
 
 Frame_Sound::Frame_Sound(const NSRect& frame) : NSViewS(frame) {
+    setAccessibleName(QStringLiteral("Sound"));
     using Layout::Family, NSColor::grayColor, NSColor::greenColor, NSColor::orangeColor;
     NSImageViewS** t = txtString;
     Button** b = BtnButton;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+// What assistive technologies see of a view: a grouping when it is named (a screen or a page, whose
+// name a reader speaks as the focus enters it; the role a screen sets, such as an alert for a page
+// that announces itself), an unnamed filler otherwise; and, for every view, the place it is drawn.
+class ViewAccessible : public QAccessibleWidget {
+public:
+    explicit ViewAccessible(QWidget* view, QAccessible::Role role = QAccessible::Client);
+
+    QAccessible::Role role() const override;
+    QRect rect() const override;
+
+    // Where the widget is drawn on its screen, in the screen's own pixels: through the view that
+    // shows its window scaled, and at the screen's scale (readers and magnifiers use device pixels).
+    static QRect DrawnRect(const QWidget* widget);
+    // The role a screen gives a view beyond a grouping; kept on the view, read when asked.
+    static void SetRole(QWidget* view, QAccessible::Role role);
+};
