@@ -10,7 +10,7 @@ PACKAGES=(
     fonts-urw-base35
     tzdata
     xvfb xauth xdotool x11-utils strace
-    dbus-daemon at-spi2-core python3-pyatspi
+    dbus-daemon at-spi2-core python3-pyatspi weston qt6-wayland
     desktop-file-utils appstream
     "$@"
 )

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
+#include <QLibraryInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QThread>
@@ -43,10 +44,51 @@ bool IsSideEffect(const QString& line, const QString& allowed) {
 
 AppWindow::~AppWindow() {
     stop();
-    if (m_server.state() == QProcess::NotRunning) return;
-    m_server.terminate();
-    if (!m_server.waitForFinished(5000)) m_server.kill();
-    m_server.waitForFinished(5000);
+    for (QProcess* process : {&m_compositor, &m_server}) {
+        if (process->state() == QProcess::NotRunning) continue;
+        process->terminate();
+        if (!process->waitForFinished(5000)) process->kill();
+        process->waitForFinished(5000);
+    }
+}
+
+QString AppWindow::WaylandMissing() {
+    if (QStandardPaths::findExecutable("weston").isEmpty())
+        return "weston is not on PATH (Debian package weston)";
+    const QString plugin =
+        QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms/libqwayland-generic.so";
+    if (!QFile::exists(plugin)) return plugin + " is missing (Debian package qt6-wayland)";
+    return {};
+}
+
+bool AppWindow::startCompositor(QProcessEnvironment* env, QString* why) {
+    // Kiosk shell: every window fullscreen on the one output, so its place is known.
+    const QString socket = "robot-wayland", runtime = env->value("XDG_RUNTIME_DIR");
+    QProcessEnvironment compositor = m_env;
+    compositor.insert("XDG_RUNTIME_DIR", runtime);
+    m_compositor.setProcessEnvironment(compositor);
+    m_compositor.start("weston", {"--backend=x11-backend.so", "--shell=kiosk-shell.so", "--no-config",
+                                  "--use-pixman", "--idle-time=0", "--socket=" + socket,
+                                  QStringLiteral("--width=%1").arg(m_screenSize.width()),
+                                  QStringLiteral("--height=%1").arg(m_screenSize.height())});
+    for (const QDeadlineTimer deadline(30000); !deadline.hasExpired(); QThread::msleep(100)) {
+        if (QFile::exists(runtime + '/' + socket)) {
+            env->insert("QT_QPA_PLATFORM", "wayland");
+            env->insert("WAYLAND_DISPLAY", socket);
+            return true;
+        }
+        if (m_compositor.state() == QProcess::NotRunning) break;
+    }
+    *why = "weston did not start: " + QString::fromLocal8Bit(m_compositor.readAllStandardError()).right(2000);
+    return false;
+}
+
+QString AppWindow::findWindow() const {
+    QByteArray out;
+    const QString search =
+        m_wayland ? "search --class ^Weston.Compositor$" : "search --onlyvisible --name ^Robot.Companion$";
+    if (!xdotool(search.split(' '), &out)) return {};
+    return QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
 }
 
 bool AppWindow::startServer(QString* why) {
@@ -122,6 +164,7 @@ bool AppWindow::start(const QString& binary, QString* why) {
     QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     env.insert("HOME", home);
     env.insert("XDG_RUNTIME_DIR", runtime);
+    if (m_wayland && !startCompositor(&env, why)) return false;
     env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + runtime + "/no-bus");
     const QString strace = QStandardPaths::findExecutable("strace");
     // Whether strace can trace here (ptrace may be forbidden in containers).
@@ -140,15 +183,22 @@ bool AppWindow::start(const QString& binary, QString* why) {
     QByteArray out;
     for (const QDeadlineTimer deadline(90000); m_windowId.isEmpty() && !deadline.hasExpired() && isRunning();
          QThread::msleep(200))
-        if (xdotool(QString("search --onlyvisible --name ^Robot.Companion$").split(' '), &out))
-            m_windowId = QString::fromLatin1(out).split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
+        m_windowId = findWindow();
     if (m_windowId.isEmpty())
         return fail(QStringLiteral("no window appeared; stderr: %1").arg(errorOutput()));
-    if (xdotool({"getwindowpid", m_windowId}, &out)) m_appPid = out.trimmed().toLongLong();
+    // The compositor's window is the compositor's: the traced app is strace's child.
+    if (m_wayland) {
+        QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(m_process.processId()));
+        if (m_traced && children.open(QIODevice::ReadOnly))
+            m_appPid = children.readAll().trimmed().toLongLong();
+    } else if (xdotool({"getwindowpid", m_windowId}, &out)) {
+        m_appPid = out.trimmed().toLongLong();
+    }
     QImage window;
     for (int attempt = 0; attempt < 5 && (window = grab()).isNull(); ++attempt) QThread::msleep(200);
     // On a screen too small for it the window is scaled down; the test says to what.
-    if (window.size() != QSize(1024, 768) && m_screenSize.boundedTo({1024, 768}) == QSize(1024, 768)) {
+    if (!m_wayland && window.size() != QSize(1024, 768) &&
+        m_screenSize.boundedTo({1024, 768}) == QSize(1024, 768)) {
         *why = QStringLiteral("the window is %1 by %2").arg(window.width()).arg(window.height());
         return false;
     }

@@ -10,7 +10,9 @@
 
 // The real robot-companion binary in a private X server (Xvfb on a display number it picks
 // itself, so parallel runs never collide), worked with real X input (xdotool) at window
-// coordinates and looked at through screenshots (ImageMagick's import).
+// coordinates and looked at through screenshots (ImageMagick's import). On Wayland, the app runs
+// in a Wayland compositor (weston) whose output is a window of that X server: the window worked
+// and looked at is the compositor's output, X input to it reaching the app as Wayland input.
 class AppWindow {
 public:
     ~AppWindow();
@@ -38,11 +40,20 @@ public:
 
     // The X screen's size, set before start (default 1280 x 1024).
     void setScreenSize(QSize size) { m_screenSize = size; }
+    // Set before start: the app on Wayland, in a compositor whose output fills the X screen and
+    // shows each window fullscreen.
+    void setWayland(bool wayland) { m_wayland = wayland; }
+    // Why the Wayland compositor cannot run here; empty when it can.
+    static QString WaylandMissing();
     // Where the window lies on the screen; null when that cannot be told.
     QRect geometry() const;
 
 private:
     bool startServer(QString* why);
+    // The compositor inside the X server, its output the window worked; false when it failed.
+    bool startCompositor(QProcessEnvironment* env, QString* why);
+    // The X window to work: the app's own, or the compositor's output; empty while there is none.
+    QString findWindow() const;
     // Runs an X tool to its end; false when it cannot start, times out or fails.
     bool run(const QString& program, const QStringList& args, QByteArray* output = nullptr) const;
     bool xdotool(const QStringList& args, QByteArray* output = nullptr) const {
@@ -51,6 +62,8 @@ private:
     QString tracePath() const { return m_scratch.filePath(QStringLiteral("trace.txt")); }
 
     QProcess m_server;
+    QProcess m_compositor;
+    bool m_wayland = false;
     QProcessEnvironment m_env = QProcessEnvironment::systemEnvironment(); // with the server's display
     QProcess m_process;
     QTemporaryDir m_scratch;
