@@ -20,7 +20,7 @@ Frame_Control::Frame_Control(const NSRect& frame) : NSViewS(frame) {
 }
 
 Frame_Control::Frame_Control(QWidget* parent) : Frame_Control(WindowFrame()) {
-    if (parent) AddSubview(parent, this);
+    if (parent) addSubview(parent, this);
 }
 
 void Frame_Control::InitFrame() {

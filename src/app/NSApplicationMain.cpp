@@ -1,14 +1,16 @@
 #include "NSApplicationMain.h"
 
-#include "ButtonAccessible.h"
 #include "Frame_Control.h"
 #include "ScreenFit.h"
+#include "ViewKit.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
 #include <QIcon>
 
 std::unique_ptr<QWidget> LoadMainWindow() {
+    // Before any view exists: a reader asks for each one as it is made.
+    ViewKit::Install();
     auto window = std::make_unique<QWidget>();
     Ui::MainWindow ui;
     ui.setupUi(window.get());
@@ -28,8 +30,6 @@ int NSApplicationMain(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.robotcompanion.robotcompanion"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.robotcompanion.robotcompanion"),
                                                  QIcon(QStringLiteral(":/pictures/logo_main.png"))));
-    // Before any view exists: a reader asks for each one as it is made.
-    ButtonAccessible::Install();
     std::unique_ptr<QWidget> window = LoadMainWindow();
     ScreenFit fit(window.get());
     fit.show();

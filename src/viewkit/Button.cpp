@@ -1,8 +1,5 @@
 #include "Button.h"
 
-#include "ButtonAccessible.h"
-#include "KeyboardNavigation.h"
-
 #include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,9 +10,6 @@ void BtnEntered(void*, Button*) {}
 void BtnExited(void*, Button*) {}
 
 Button::Button(const NSRect& frame) : NSImageViewS(frame) {
-    // Screen readers see buttons (and captions) through our own interfaces.
-    ButtonAccessible::Install();
-    KeyboardNavigation::Install();
     setFocusPolicy(Qt::TabFocus);
 }
 
@@ -78,10 +72,6 @@ void Button::mouseExited() {
     if (!bEnable) return;
     setLook(Look::Up);
     ButtonExited(frmControl[2], this);
-}
-
-void Button::RegisterHover() {
-    addTrackingRect(visibleRect(), this, nullptr, false);
 }
 
 const Picture& Button::shownPicture() const {
@@ -152,19 +142,7 @@ void Button::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
 }
 
-void Button::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
-    if ((key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter) ||
-        (event->modifiers() & ~Qt::KeypadModifier)) {
-        NSImageViewS::keyPressEvent(event);
-        return;
-    }
-    event->accept();
-    // A key held down presses once, as a button held down clicks once.
-    if (!event->isAutoRepeat()) KeyboardNavigation::Press(this);
-}
-
 void RegisterHover(std::initializer_list<Button*> buttons) {
     for (Button* button : buttons)
-        if (button) button->RegisterHover();
+        if (button) button->addTrackingRect(button->visibleRect(), button, nullptr, false);
 }

@@ -2,6 +2,7 @@
 
 #include "HoverOwner.h"
 #include "NSImageViewS.h"
+#include "Pressable.h"
 
 #include <initializer_list>
 
@@ -17,8 +18,8 @@ void BtnExited(void* context, Button* button);
 // The one control of the application that reacts to the mouse: three pictures (at rest, under
 // the pointer, pressed) drawn at their natural size against the left edge, an enable flag, an
 // optional caption, and three callbacks each with its own context. The keyboard reaches it by
-// Tab only (a click never takes the focus), and Space or Return press it as a click does.
-class Button : public NSImageViewS, public HoverOwner {
+// Tab only (a click never takes the focus), and presses it as a click does.
+class Button : public NSImageViewS, public HoverOwner, public Pressable {
     Q_OBJECT
 public:
     enum class Look { Up, Move, Down };
@@ -46,17 +47,17 @@ public:
     void mouseUp();
     // A whole click: what the mouse, the keyboard and assistive technology all do to press it.
     void click();
+    void press() override { click(); }
     void mouseEntered() override;
     void mouseExited() override;
-
-    // One more hover registration of the part of the button that is on view now.
-    void RegisterHover();
 
     Look look() const { return m_look; }
     const Picture& shownPicture() const;
     QString shownPictureName() const { return shownPicture().name(); }
     // Where the shown picture is drawn, in the button's coordinates; the whole button if none.
     QRectF pictureRect() const;
+    // The focus ring goes round the picture, not the frame the picture may not fill.
+    QRectF focusRect() const override { return pictureRect(); }
 
     // Set where the screen swaps the pictures that show the choice; assistive technology is told.
     void setChoice(Choice kind, bool chosen);
@@ -77,7 +78,6 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void setLook(Look look);
@@ -87,5 +87,6 @@ private:
     bool m_chosen = false;
 };
 
-// Hover registration of several buttons, in order; null entries are skipped.
+// One more hover registration of each button, of the part of it on view now, in order; null
+// entries are skipped.
 void RegisterHover(std::initializer_list<Button*> buttons);

@@ -26,10 +26,6 @@ public:
     // A caption as read aloud: its lines joined by single spaces.
     static QString OneLine(const QString& caption);
 
-    // Makes Qt use these interfaces (and those of the views, the windows and the application); called
-    // by every new Button, does its work once.
-    static void Install();
-
 private:
-    Button* button() const;
+    Button* control() const;
 };

@@ -1,7 +1,6 @@
 #include "FocusRing.h"
 
-#include "Button.h"
-#include "NSColor.h"
+#include "NSViewS.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -28,13 +27,13 @@ void FocusRing::follow(QWidget* target) {
 }
 
 void FocusRing::place() {
-    const QRect visible = NSViewS::VisibleRect(m_target);
+    const QRect visible = NSViewS::visibleRect(m_target);
     if (visible.isEmpty()) {
         hide();
         return;
     }
-    const auto* button = qobject_cast<const Button*>(m_target.data());
-    const QRectF hug = (button ? button->pictureRect() : QRectF(m_target->rect())) & QRectF(visible);
+    const auto* view = qobject_cast<const NSViewS*>(m_target.data());
+    const QRectF hug = (view ? view->focusRect() : QRectF(m_target->rect())) & QRectF(visible);
     const QRectF outline(m_target->mapTo(parentWidget(), hug.topLeft()), hug.size());
     const QRectF around = outline.adjusted(-kGap, -kGap, kGap, kGap);
     setGeometry(around.toAlignedRect().adjusted(-kGlow, -kGlow, kGlow, kGlow));
@@ -59,24 +58,22 @@ void FocusRing::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    const QColor orange = NSColor::orangeColor();
+    const QColor cyan(80, 225, 255);
+    const QColor edge(8, 16, 40);
     QPainterPath outline;
     outline.addRoundedRect(m_outline, m_radius, m_radius);
-    // The glow only outwards, so the picture inside keeps its own colours: wide faint strokes
-    // under narrower ones, brightest at the outline.
+    // A dark band under the outline, wider than it, edges it on both sides; a faint glow
+    // outside only, so the picture inside keeps its own colours.
     QPainterPath outside;
     outside.addRect(QRectF(rect()));
     painter.setClipPath(outside - outline);
-    for (int width = 2 * kGlow; width > 2; width -= 3) {
-        QColor glow = orange;
-        glow.setAlpha(48);
-        painter.setPen(QPen(glow, width));
-        painter.drawPath(outline);
-    }
+    QColor glow = cyan;
+    glow.setAlpha(60);
+    painter.setPen(QPen(glow, 2 * kGlow));
+    painter.drawPath(outline);
     painter.setClipping(false);
-    // A dark line just inside keeps the outline apart from an orange picture.
-    painter.setPen(QPen(QColor(10, 20, 50, 170), 1.5));
-    painter.drawRoundedRect(m_outline.adjusted(2, 2, -2, -2), m_radius - 2, m_radius - 2);
-    painter.setPen(QPen(orange, 2.5));
+    painter.setPen(QPen(edge, 6));
+    painter.drawPath(outline);
+    painter.setPen(QPen(cyan, 3));
     painter.drawPath(outline);
 }

@@ -3,9 +3,10 @@
 #include <QFocusFrame>
 #include <QPointer>
 
-// The keyboard focus drawn in the artwork's manner: a rounded orange outline with a soft glow,
-// a little outside the focused control's picture so that it shows on orange buttons as well as
-// on the dark backgrounds. A focus frame to Qt (so assistive technology passes over it), but one
+// The keyboard focus: a rounded outline a little outside what the focused control shows, in a
+// bright cyan that none of the artwork uses (the artwork's "chosen" looks are orange), edged in
+// dark blue on both sides so it stands out on orange buttons, silver buttons and the dark
+// backgrounds alike. A focus frame to Qt (so assistive technology passes over it), but one
 // that lies over the whole window rather than beside its control in a page that would clip it.
 class FocusRing : public QFocusFrame {
     Q_OBJECT

@@ -18,13 +18,13 @@ public:
 
     // Adds the child on top of its siblings; adding it again brings it to the front. A child that
     // was hidden on purpose stays hidden, every other child is shown with its parent.
-    void addSubview(QWidget* child);
-    static void AddSubview(QWidget* parent, QWidget* child);
+    void addSubview(QWidget* child) { addSubview(this, child); }
+    static void addSubview(QWidget* parent, QWidget* child);
 
     // The part of the view that is on screen, in its own coordinates; empty while it, or an
     // ancestor, is hidden or the window is not shown.
-    QRect visibleRect() const { return VisibleRect(this); }
-    static QRect VisibleRect(const QWidget* widget);
+    QRect visibleRect() const { return visibleRect(this); }
+    static QRect visibleRect(const QWidget* widget);
 
     // A hover registration: the rectangle (in this view's coordinates) is fixed in window
     // coordinates now, and the owner gets one enter and one exit per crossing, for as long as
@@ -34,8 +34,9 @@ public:
     // A screen makes the hover registrations of its buttons when it is shown; other views have none.
     virtual void ButtonTrackingOn() {}
 
-    // Hiding a view takes the keyboard away from any control in it, to the first one on view.
-    void setVisible(bool visible) override;
+    // What the focus ring goes round, in the view's coordinates: the whole view unless it says
+    // otherwise.
+    virtual QRectF focusRect() const { return QRectF(rect()); }
 
 private:
     NSRect m_frame;

@@ -39,11 +39,16 @@ std::optional<QPoint> InRoot(const QWidget* root, const QWindow* window, QPointF
     return QPoint(static_cast<int>(std::floor(at.x())), static_cast<int>(std::floor(at.y())));
 }
 
+QPointer<TrackingRegistry> g_registry;
+
 } // namespace
 
-TrackingRegistry& TrackingRegistry::instance() {
-    static TrackingRegistry registry;
-    return registry;
+TrackingRegistry::TrackingRegistry(QObject* owner) : QObject(owner) {
+    g_registry = this;
+}
+
+TrackingRegistry* TrackingRegistry::instance() {
+    return g_registry;
 }
 
 void TrackingRegistry::add(QWidget* view, const QRect& rect, HoverOwner* owner, void* /*userData*/,
@@ -113,10 +118,8 @@ void TrackingRegistry::pointerMoved(QWindow* window, bool present, QPointF pos) 
             r.inside = inside;
             // A button that is not on view keeps its looks until it is shown again.
             if (!r.ownerView || !r.ownerView->isVisible()) continue;
-            if (inside)
-                r.owner->mouseEntered();
-            else
-                r.owner->mouseExited();
+            const auto crossing = inside ? &HoverOwner::mouseEntered : &HoverOwner::mouseExited;
+            (r.owner->*crossing)();
         }
     }
 }

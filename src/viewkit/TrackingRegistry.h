@@ -20,7 +20,10 @@ class QWidget;
 class TrackingRegistry : public QObject {
     Q_OBJECT
 public:
-    static TrackingRegistry& instance();
+    // One per application, made at start-up by its owner.
+    explicit TrackingRegistry(QObject* owner);
+    // The application's registry; none before start-up.
+    static TrackingRegistry* instance();
 
     // rect is in view's coordinates. An empty rectangle (the view hidden, or not yet in a shown
     // window) is accepted and never fires.

@@ -10,26 +10,53 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
 
-// The one control on view that a screen reader calls `name`: the routes name controls as the
-// user sees them.
+// The one control on view that a screen reader calls `name` (* standing for any characters
+// but a slash, as in a date): the routes name controls as the user sees them.
 QWidget* OnView(QWidget* root, const QString& name) {
+    const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(name));
     QList<QWidget*> found;
     for (QWidget* w : root->findChildren<QWidget*>())
-        if (w->isVisible() && QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name) == name)
+        if (w->isVisible() &&
+            pattern.match(QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name)).hasMatch())
             found << w;
     return found.size() == 1 ? found.first() : nullptr;
 }
 
+// The screen on view, and on the alarm screen its page and whether an editor is open.
+QString Shown(const AppHarness& app) {
+    const Frame_Control* r = app.root();
+    const QHash<QString, QWidget*> screens = {{"main menu", r->frmMainMenu}, {"scenario", r->frmScenario},
+                                              {"alarm", r->frmAlarm},        {"movement", r->frmMovement},
+                                              {"sound", r->frmSound},        {"laser", r->frmLazer}};
+    QString shown = screens.key(app.shownScreen(), QStringLiteral("?"));
+    const Frame_Alarm* a = r->frmAlarm;
+    if (shown != QLatin1String("alarm")) return shown;
+    const QList<std::pair<const char*, QWidget*>> pages = {{"confirmation", a->frmDoneView},
+                                                           {"choose", a->frmChooseView},
+                                                           {"birthday", a->frmBirthdayControlView},
+                                                           {"wake up", a->frmWakeupControlView}};
+    for (const auto& [name, page] : pages)
+        if (page->isVisible()) {
+            shown += QStringLiteral(": ") + name;
+            break;
+        }
+    for (const QWidget* editor : {a->frmBirthDateEditView, a->frmBirthTimeEditView, a->frmWakeupTimeEditView})
+        if (editor->isVisible()) shown += QStringLiteral(", editor");
+    return shown;
+}
+
 } // namespace
 
-// Every route between the screens, taken by real clicks in the window: the screen it ends on is
-// the only one shown, and its buttons answer the pointer when some route made their hover
-// registrations while they were on view (the scenario screen's, made while it was hidden, do not):
-// its Back, or on the menu, "Program scenario", is pointed at.
+// Every route between the screens and the alarm's pages, taken by real clicks and keys in the
+// window: where it ends (the only screen shown; on the alarm screen, its page), and whether its
+// buttons answer the pointer, as they do when some route made their hover registrations while
+// they were on view (the scenario screen's, made while it was hidden, do not): its Back, or on
+// the menu, "Program scenario", is pointed at. Each way back is taken twice: by Back and by Escape.
 class TestRoutes : public QObject {
     Q_OBJECT
 private slots:
@@ -41,45 +68,74 @@ private slots:
                                      "type Robo", "Create"};
         const QStringList toSound = toMovement + QStringList{"Sound tab"};
         const QStringList toLaser = toMovement + QStringList{"Laser tab"};
+        const QStringList toBirthday{"Alarm/Clock", "Birthday alarm:Off"};
+        const auto back = [](const char* from, const QStringList& steps, const char* to, bool hover) {
+            QTest::addRow("%s, back", from) << steps + QStringList{"Back"} << to << hover;
+            QTest::addRow("%s, escape", from) << steps + QStringList{"key Esc"} << to << hover;
+        };
         QTest::newRow("menu, program") << QStringList{"Program scenario"} << "scenario" << false;
-        QTest::newRow("scenario, back") << QStringList{"Program scenario", "Back"} << "main menu" << true;
+        QTest::newRow("menu, escape stays") << QStringList{"key Esc"} << "main menu" << true;
+        back("scenario", {"Program scenario"}, "main menu", true);
         QTest::newRow("scenario, create") << toMovement << "movement" << true;
         QTest::newRow("scenario, modify and go")
             << QStringList{"Program scenario", "Modify exist scenario", "Go"} << "movement" << true;
-        QTest::newRow("movement, back") << toMovement + QStringList{"Back"} << "main menu" << true;
+        back("movement", toMovement, "main menu", true);
         QTest::newRow("movement, sound tab") << toSound << "sound" << true;
         QTest::newRow("movement, laser tab") << toLaser << "laser" << true;
         QTest::newRow("sound, movement tab") << toSound + QStringList{"Movement tab"} << "movement" << true;
-        QTest::newRow("sound, back") << toSound + QStringList{"Back"} << "movement" << true;
+        back("sound", toSound, "movement", true);
         QTest::newRow("sound, laser tab") << toSound + QStringList{"Laser tab"} << "laser" << true;
         QTest::newRow("laser, sound tab") << toLaser + QStringList{"Sound tab"} << "sound" << true;
-        QTest::newRow("laser, back") << toLaser + QStringList{"Back"} << "sound" << true;
+        back("laser", toLaser, "sound", true);
         QTest::newRow("laser, movement tab") << toLaser + QStringList{"Movement tab"} << "movement" << true;
         QTest::newRow("laser, face tab") << toLaser + QStringList{"Face tab"} << "movement" << true;
         QTest::newRow("laser, play") << toLaser + QStringList{"Play"} << "movement" << true;
-        QTest::newRow("menu, alarm") << QStringList{"Alarm/Clock"} << "alarm" << true;
-        QTest::newRow("alarm, back") << QStringList{"Alarm/Clock", "Back"} << "main menu" << true;
+        QTest::newRow("menu, alarm") << QStringList{"Alarm/Clock"} << "alarm: choose" << true;
+        back("alarm choose page", {"Alarm/Clock"}, "main menu", true);
+        back("alarm birthday page", toBirthday, "alarm: choose", true);
+        back("alarm wake up page", {"Alarm/Clock", "Wake up alarm:Off"}, "alarm: choose", true);
         // The keyboard alone: a new screen's first control has the focus, the scenario's first is
         // "Create a new scenario", which opens the name field with the focus in it.
         const QStringList keysToScenario{"tab to Program scenario", "key Space",
                                          "focus Create a new scenario"};
         const QStringList keysToName = keysToScenario + QStringList{"key Space", "focus Scenario name"};
-        QTest::newRow("keys: escape") << keysToScenario + QStringList{"key Esc"} << "main menu" << true;
         QTest::newRow("keys: shift+tab wraps to the last, back")
             << keysToScenario + QStringList{"key Backtab", "focus Back", "key Return"} << "main menu" << true;
         QTest::newRow("keys: return in the name creates")
             << keysToName + QStringList{"type Robo", "key Return"} << "movement" << true;
         QTest::newRow("keys: return without a name does nothing")
             << keysToName + QStringList{"key Return"} << "scenario" << false;
+        QTest::newRow("keys: escape leaves the name first, then the screen")
+            << keysToName + QStringList{"key Esc", "focus Create a new scenario", "key Esc"} << "main menu"
+            << true;
         QTest::newRow("keys: tab skips a disabled create")
             << keysToName + QStringList{"key Tab", "focus Modify exist scenario"} << "scenario" << false;
-        QTest::newRow("keys: escape on the sound screen")
-            << toSound + QStringList{"key Esc"} << "movement" << true;
-        // The choose page hides its focused button: the focus goes to the first control of the page shown.
-        const QStringList alarmKeys =
-            QString("tab to Alarm/Clock,key Space,tab to Birthday alarm:Off,key Space,focus Help")
-                .split(u',');
-        QTest::newRow("keys: alarm page") << alarmKeys << "alarm" << true;
+        // After a click the focus does not show: a key shows it and presses nothing.
+        QTest::newRow("keys: a key without the ring shows it")
+            << QStringList{"Program scenario", "key Space", "focus Create a new scenario"} << "scenario"
+            << false;
+        // A page that hides its focused button hands the focus to the first control of the page
+        // shown; an editor opens with the focus in it, and Return sets, or Escape closes, it alone.
+        const QStringList keysToDate =
+            toBirthday + QStringList{"On", "tab to */*/*", "key Space", "focus Birthday date"};
+        QTest::newRow("keys: alarm page") << QStringList{"tab to Alarm/Clock", "key Space",
+                                                         "tab to Birthday alarm:Off", "key Space", "focus On"}
+                                          << "alarm: birthday" << true;
+        QTest::newRow("keys: date editor, escape")
+            << keysToDate + QStringList{"key Esc", "focus */*/*"} << "alarm: birthday" << true;
+        QTest::newRow("keys: date editor, return sets")
+            << keysToDate + QStringList{"key Return", "focus */*/*"} << "alarm: birthday" << true;
+        // The confirmation holds the focus and ignores keys for its while; then the choose page.
+        const QStringList keysToConfirmation =
+            toBirthday +
+            QStringList{
+                "On",        "tab to Done",
+                "key Space", "focus Birthday Alarm is on!!! It means I'll congraduate you on your birthday!",
+                "key Esc",   "key Space"};
+        QTest::newRow("keys: confirmation holds") << keysToConfirmation << "alarm: confirmation" << true;
+        QTest::newRow("keys: confirmation, then the choose page")
+            << keysToConfirmation + QStringList{"confirmation ends", "focus Birthday alarm:On"}
+            << "alarm: choose" << true;
     }
 
     void routes() {
@@ -98,6 +154,10 @@ private slots:
                 QTest::keyClick(app.handle(), QKeySequence(rest)[0].key());
                 continue;
             }
+            if (step == QLatin1String("confirmation ends")) {
+                app.root()->frmAlarm->flow.DoneView();
+                continue;
+            }
             // The focus may follow once the change that moved it is over.
             if (step.startsWith(QLatin1String("focus "))) {
                 QTRY_COMPARE(QApplication::focusWidget(), OnView(app.root(), rest));
@@ -105,7 +165,8 @@ private slots:
             }
             if (step.startsWith(QLatin1String("tab to "))) {
                 QWidget* target = OnView(app.root(), step.mid(7));
-                for (int tab = 0; tab < 10 && QApplication::focusWidget() != target; ++tab)
+                // At least one Tab: the ring shows only once a key is used.
+                for (int tab = 0; tab < 10 && (tab == 0 || QApplication::focusWidget() != target); ++tab)
                     QTest::keyClick(app.handle(), Qt::Key_Tab);
                 QCOMPARE(QApplication::focusWidget(), target);
                 continue;
@@ -114,12 +175,9 @@ private slots:
             QVERIFY2(control, qPrintable(step + QStringLiteral(" is not on view")));
             app.click(control);
         }
-        Frame_Control* r = app.root();
-        const QHash<QString, QWidget*> screens = {{"main menu", r->frmMainMenu}, {"scenario", r->frmScenario},
-                                                  {"alarm", r->frmAlarm},        {"movement", r->frmMovement},
-                                                  {"sound", r->frmSound},        {"laser", r->frmLazer}};
-        QCOMPARE(app.shownScreen(), screens.value(shown));
-        auto* probe = qobject_cast<Button*>(OnView(r, shown == "main menu" ? "Program scenario" : "Back"));
+        QCOMPARE(Shown(app), shown);
+        auto* probe =
+            qobject_cast<Button*>(OnView(app.root(), shown == "main menu" ? "Program scenario" : "Back"));
         QVERIFY(probe);
         app.moveTo(QPoint(400, 20)); // off the button, then onto it
         app.moveTo(probe);

@@ -126,7 +126,7 @@ QStringList AppInvariants(const Frame_Control* root) {
     // Typing goes to the focused widget: one that is not on view would take keys the user cannot
     // see land, and a later Create or Set would write them.
     if (const QWidget* focused = QApplication::focusWidget())
-        expect(!NSViewS::VisibleRect(focused).isEmpty(),
+        expect(!NSViewS::visibleRect(focused).isEmpty(),
                QStringLiteral("the keyboard focus is on %1 \"%2\", which is not on view")
                    .arg(QString::fromLatin1(focused->metaObject()->className()), focused->accessibleName()));
     return broken;
@@ -199,11 +199,11 @@ struct Hand {
         std::vector<QWidget*> controls;
         if (QWidget* screen = m_app.shownScreen())
             for (QWidget* w : screen->findChildren<QWidget*>())
-                if (IsControl(w) && !NSViewS::VisibleRect(w).isEmpty() && (w != done || chance(20)))
+                if (IsControl(w) && !NSViewS::visibleRect(w).isEmpty() && (w != done || chance(20)))
                     controls.push_back(w);
         if (controls.empty()) return anywhere();
         QWidget* control = controls[below(int(controls.size()))];
-        const QRect r = NSViewS::VisibleRect(control);
+        const QRect r = NSViewS::visibleRect(control);
         return NotCorner(m_app.at(control, {r.x() + below(r.width()), r.y() + below(r.height())}));
     }
     // Now and then the hand rests between press and release, and timers run meanwhile.

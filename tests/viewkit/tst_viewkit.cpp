@@ -6,6 +6,7 @@
 #include "Button.h"
 #include "ButtonAccessible.h"
 #include "FocusRing.h"
+#include "ViewKit.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
 #include "Frame_Lazer.h"
@@ -99,7 +100,7 @@ struct Host {
 
     Host() {
         window.resize(500, 300); // the page leaves a strip on the right
-        NSViewS::AddSubview(&window, page);
+        NSViewS::addSubview(&window, page);
         for (Button* button : {a, b}) button->InitImage(u"up"_s, u"move"_s, u"down"_s, u"png"_s, page);
         a->InitButtonAction(Record, &contexts.action);
         a->InitButtonEntered(Record, &contexts.entered);
@@ -124,7 +125,7 @@ const QHash<QString, std::function<void(Host&)>> kSteps = {
     {"releaseOutside", [](Host& h) { h.release(outside); }},
     {"in", [](Host& h) { h.move(inA); }},
     {"out", [](Host& h) { h.move(outside); }},
-    {"register", [](Host& h) { h.a->RegisterHover(); }},
+    {"register", [](Host& h) { RegisterHover({h.a}); }},
     {"disable", [](Host& h) { h.a->SetEnable(0); }},
     {"enable", [](Host& h) { h.a->SetEnable(1); }},
     {"hide", [](Host& h) { h.a->setHidden(true); }},
@@ -191,6 +192,8 @@ const struct {
 class TestViewKit : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase() { ViewKit::Install(); }
+
     void captionsAreTheSamePixelsAsDrawingEachLine_data() {
         QTest::addColumn<int>("i");
         for (int i = 0; i < int(std::size(kCaptions)); ++i) QTest::newRow(kCaptions[i].name) << i;

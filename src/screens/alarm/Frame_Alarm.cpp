@@ -81,6 +81,19 @@ Frame_Alarm::Frame_Alarm(const NSRect& frame) : NSViewS(frame), flow(WallClockNo
                   });
     InitView();
     KeyboardNavigation::EscapePresses(BtnBack);
+    // The keyboard starts at each page's first choice; Escape in an open editor closes it only,
+    // back to its button; the confirmation holds the focus while it shows.
+    frmChooseView->setFocusProxy(BtnBirthdayStatus);
+    frmBirthdayControlView->setFocusProxy(BtnBirthdayOn);
+    frmWakeupControlView->setFocusProxy(BtnWakeupOn);
+    for (const auto& [editor, opener] : {std::pair{frmBirthDateEditView, BtnBirthDate},
+                                         {frmBirthTimeEditView, BtnBirthTime},
+                                         {frmWakeupTimeEditView, BtnWakeupTime}})
+        KeyboardNavigation::EscapeCalls(editor, [this, opener] {
+            flow.OpenEditor(AlarmFlow::Editor::None);
+            KeyboardNavigation::FocusIfKeyboardInUse(opener);
+        });
+    txtDoneMessage->setFocusPolicy(Qt::TabFocus);
     connect(&flow, &AlarmFlow::changed, this, &Frame_Alarm::Refresh);
     Refresh();
 }
@@ -143,7 +156,7 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
     picker->setDateTimeRange(QDateTime(kFirstPickableDay, QTime(0, 0), Qt::UTC),
                              QDateTime(kLastPickableDay, QTime(23, 59, 59, 999), Qt::UTC));
     picker->setDateTime(value);
-    AddSubview(editor, picker);
+    addSubview(editor, picker);
 
     Layout::Build(editor, {Btn01(&setButton, 257, 23, "normal_Btn01", "Set", setAction)}, this);
     KeyboardNavigation::ReturnPresses(editor, setButton);

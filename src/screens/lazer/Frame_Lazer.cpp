@@ -21,6 +21,8 @@ Frame_Lazer::Frame_Lazer(const NSRect& frame) : NSViewS(frame) {
     setAccessibleName(QStringLiteral("Laser"));
     InitView();
     ButtonTrackingOn();
+    // The keyboard starts at the first configuration.
+    setFocusProxy(BtnLazer1);
     KeyboardNavigation::EscapePresses(BtnBack);
     connect(&configuration, &LazerConfiguration::changed, this, &Frame_Lazer::ShowLazerType);
     ShowLazerType();

@@ -56,6 +56,8 @@ Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
         imgRobot->setFrame(frame);
         imgRobot->update();
     });
+    // The keyboard starts at "Program scenario".
+    setFocusProxy(BtnProgram);
 }
 
 void Frame_MainMenu::ButtonTrackingOn() {

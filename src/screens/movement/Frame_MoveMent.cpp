@@ -90,6 +90,8 @@ Frame_MoveMent::Frame_MoveMent(const NSRect& frame) : NSViewS(frame) {
             text(&txtString[4], 106, 587, 119, 22, "Movements of"),
         },
         controls);
+    // The keyboard starts at the first brick.
+    setFocusProxy(BtnMoveUp);
     KeyboardNavigation::EscapePresses(BtnBack);
     InitPathFrame();
 }

@@ -67,6 +67,8 @@ Frame_Scenario::Frame_Scenario(const NSRect& frame) : NSViewS(frame) {
             Btn03(&BtnCreate, 350, "Create a new scenario", Frame_Scenario_CreateBtnAction),
             Btn03(&BtnModify, 421, "Modify exist scenario", Frame_Scenario_ModifyBtnAction),
         });
+    // The keyboard starts at "Create a new scenario".
+    setFocusProxy(BtnCreate);
     KeyboardNavigation::EscapePresses(BtnBack);
 
     InitView();
@@ -107,6 +109,9 @@ void Frame_Scenario::InitCreateScenarioView() {
                     .action = Frame_Scenario_GoMoveMentBtnAction}},
                   this);
     KeyboardNavigation::ReturnPresses(frmCreateScenarioView, BtnNewCreate);
+    // Escape leaves the field first, back to what opened it.
+    KeyboardNavigation::EscapeCalls(txtScenarioName,
+                                    [this] { KeyboardNavigation::FocusIfKeyboardInUse(BtnCreate); });
 }
 
 void Frame_Scenario::InitLoadScenarioView() {
@@ -120,7 +125,7 @@ void Frame_Scenario::InitLoadScenarioView() {
     for (qint32 r = 0; r < kRows; ++r) {
         BtnScenarioName[r] = Layout::MakeButton(
             frmLoadScenarioView, {.frame = MakeNSRect(0, 36 * r, 414, 39), .action = kNameActions[r]}, this);
-        BtnScenarioName[r]->RegisterHover();
+        RegisterHover({BtnScenarioName[r]});
     }
 
     Layout::Build(
@@ -137,8 +142,7 @@ void Frame_Scenario::InitLoadScenarioView() {
 }
 
 void Frame_Scenario::ButtonTrackingOn() {
-    for (Button* row : BtnScenarioName)
-        if (row) row->RegisterHover();
+    for (Button* row : BtnScenarioName) RegisterHover({row});
     RegisterHover({BtnBack, BtnNewCreate, BtnCreate, BtnModify, BtnUpList, BtnDownList, BtnX, BtnGo});
 }
 

@@ -18,5 +18,5 @@ void ScenarioNotify::controlTextDidChange(const QLineEdit* field) {
     scenario->list.NameChanged(field->text());
     // One more registration of "Create" on every change that leaves a name: they pile up as the
     // user types.
-    if (scenario->list.bCreateEnabled() && scenario->BtnNewCreate) scenario->BtnNewCreate->RegisterHover();
+    if (scenario->list.bCreateEnabled() && scenario->BtnNewCreate) RegisterHover({scenario->BtnNewCreate});
 }

@@ -113,20 +113,22 @@ Frame_Sound::Frame_Sound(const NSRect& frame) : NSViewS(frame) {
         controls);
     for (qint32 i = kBtnSoundFirst; i <= kBtnSoundLast; ++i)
         b[i]->setChoice(Button::Choice::Select, Board.MarkOn(i));
+    // The keyboard starts at the first sound.
+    setFocusProxy(b[kBtnSoundFirst]);
     KeyboardNavigation::EscapePresses(b[kBtnBack]);
     connect(&Board, &SoundSetBoard::changed, this, &Frame_Sound::ShowSoundSet);
     InitSoundContent();
 }
 
 void Frame_Sound::ButtonTrackingOn() {
-    for (Button* button : BtnButton)
-        if (button) button->RegisterHover();
+    for (Button* button : BtnButton) RegisterHover({button});
 }
 
 void Frame_Sound::InitSoundContent() {
     SoundContent = SOUNDSETCONTENT{};
     SoundContent.frmSoundContent = new NSViewS(MakeNSRect(552, 320, 371, 224));
     addSubview(SoundContent.frmSoundContent);
+    KeyboardNavigation::ReadsInItemOrder(SoundContent.frmSoundContent);
     connect(&Timeline, &SoundTimeline::ItemAppended, this, &Frame_Sound::SoundContentItemMade);
     connect(&Timeline, &SoundTimeline::ItemsScrolled, this, &Frame_Sound::SoundContentItemsScrolled);
     connect(&Timeline, &SoundTimeline::ScrollArrived, this, &Frame_Sound::SoundContentPlaceItems);

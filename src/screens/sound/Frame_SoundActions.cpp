@@ -51,7 +51,7 @@ void Frame_Sound::SoundContentItemMade(qint32 n, qint32 sound) {
          .caption = {SoundSetName(sound), NSColor::grayColor(), MakeNSRect(17, 11, 50, 16), 14}});
     item->InitButtonAction(Frame_Sound_SoundContentBtnAction, this);
     // Made once, where the item stands now: an item laid out of view gets an empty registration.
-    item->RegisterHover();
+    RegisterHover({item});
     c.Item.BtnButton[n] = item;
 
     const QByteArray number = QByteArray::number(n + 1);
