@@ -227,9 +227,14 @@ void KeyboardNavigation::keepFocusOnView() {
 }
 
 bool KeyboardNavigation::moveFocus(QWidget* window, bool forward) {
-    const QList<QWidget*> controls = this->controls(window);
     m_window = window;
+    // Where the focus does not show, the first Tab shows it.
+    if (!m_keyboard && TakesFocus(window->focusWidget())) {
+        setKeyboardInUse(true);
+        return true;
+    }
     setKeyboardInUse(true);
+    const QList<QWidget*> controls = this->controls(window);
     if (controls.isEmpty()) return true;
     const qsizetype n = controls.size();
     const qsizetype at = controls.indexOf(window->focusWidget());

@@ -395,11 +395,31 @@ private slots:
         CHECK(tabUntilRingOnProgram(toWindow));
         QVERIFY(m_app->key("space"));
         WAIT_FOR("scenario screen by keys", {}, seen(Buttons(kCommon, {kScenarioShown})));
+        // Return creates, Escape goes back: the focus starts at "Create a new scenario", which
+        // opens the name field with the focus in it.
+        QVERIFY(m_app->key("space") && m_app->type("Robo") && m_app->key("Return"));
+        WAIT_FOR("movement screen by keys", {},
+                 seen(Buttons(kEditor,
+                              {{At::MovementTabOnMovement, "movement_over", "movement", {0, 0, 60, 63}}})));
+        QVERIFY(m_app->key("Escape"));
+        WAIT_FOR("menu by escape", {}, seen(menu("command_normal_menus", "command_focused_menus")));
+        // Return sets: the alarm (a Tab past "Program scenario"), the birthday page, On, then
+        // Tab past Off to the date, whose editor (its Set where the scenario's Create stands)
+        // opens with the focus in the picker.
+        const Look setShown{"Set", Part(At::CreateNamed, 75, 0, 36, 46),
+                            Scene(kCommon).button(kBtn1, At::CreateNamed), Scene(kCommon)};
+        for (const char* key : {"Tab", "space", "space", "space", "Tab", "Tab", "space"})
+            QVERIFY(m_app->key(key));
+        WAIT_FOR("date editor by keys", {}, seen({setShown}));
+        QVERIFY(m_app->key("Return"));
+        WAIT_FOR("date set by return", {},
+                 seen({{"no Set", setShown.region, setShown.other, setShown.expected}}));
+        QVERIFY(m_app->key("Escape"));
+        WAIT_FOR("choose page by escape", {}, seen(Buttons(kCommon, {kStatus})));
     }
 
-    // The keyboard alone: Tab draws the focus ring, round "Program scenario" after one Tab or two
-    // (where the first lands depends on whether the window came up with a focus), and Space on
-    // it opens the scenario screen.
+    // The keyboard alone: the first Tab draws the focus ring round "Program scenario", where the
+    // menu starts, and Space on it opens the scenario screen.
     void keyboardReachesTheScenarioScreen() {
         CHECK(menuReady("menu"));
         CHECK(tabUntilRingOnProgram(QTransform()));
