@@ -117,21 +117,26 @@ private slots:
         // A page that hides its focused button hands the focus to the first control of the page
         // shown; an editor opens with the focus in it, and Return sets, or Escape closes, it alone.
         const QStringList keysToDate =
-            toBirthday + QStringList{"On", "tab to */*/*", "key Space", "focus Birthday date"};
-        QTest::newRow("keys: alarm page") << QStringList{"tab to Alarm/Clock", "key Space",
-                                                         "tab to Birthday alarm:Off", "key Space", "focus On"}
-                                          << "alarm: birthday" << true;
+            toBirthday + QStringList{"Birthday alarm, On", "tab to Birthday date, */*/*", "key Space",
+                                     "focus Birthday date"};
+        QTest::newRow("keys: alarm page")
+            << QStringList{"tab to Alarm/Clock", "key Space", "tab to Birthday alarm:Off", "key Space",
+                           "focus Birthday alarm, On"}
+            << "alarm: birthday" << true;
         QTest::newRow("keys: date editor, escape")
-            << keysToDate + QStringList{"key Esc", "focus */*/*"} << "alarm: birthday" << true;
+            << keysToDate + QStringList{"key Esc", "focus Birthday date, */*/*"} << "alarm: birthday" << true;
         QTest::newRow("keys: date editor, return sets")
-            << keysToDate + QStringList{"key Return", "focus */*/*"} << "alarm: birthday" << true;
+            << keysToDate + QStringList{"key Return", "focus Birthday date, */*/*"} << "alarm: birthday"
+            << true;
         // The confirmation holds the focus and ignores keys for its while; then the choose page.
         const QStringList keysToConfirmation =
             toBirthday +
-            QStringList{
-                "On",        "tab to Done",
-                "key Space", "focus Birthday Alarm is on!!! It means I'll congraduate you on your birthday!",
-                "key Esc",   "key Space"};
+            QStringList{"Birthday alarm, On",
+                        "tab to Done",
+                        "key Space",
+                        "focus Birthday Alarm is on!!! It means I'll congraduate you on your birthday!",
+                        "key Esc",
+                        "key Space"};
         QTest::newRow("keys: confirmation holds") << keysToConfirmation << "alarm: confirmation" << true;
         QTest::newRow("keys: confirmation, then the choose page")
             << keysToConfirmation + QStringList{"confirmation ends", "focus Birthday alarm:On"}
