@@ -33,7 +33,7 @@ bool ScreenTour::stop(const QString& name) {
     m_app.moveTo(kPark);
     QTest::qWait(50);
     const QString file =
-        QStringLiteral("%1-%2.png").arg(m_written.size() + 1, 2, 10, QLatin1Char('0')).arg(name);
+        QStringLiteral("%1-%2.png").arg(m_written.size() - m_rings + 1, 2, 10, QLatin1Char('0')).arg(name);
     return save(file);
 }
 
@@ -62,8 +62,20 @@ bool ScreenTour::mainMenu() {
     if (!stop(QStringLiteral("main-menu"))) return false;
     // Pointed at: lit picture, white caption. The grab is taken with the pointer still there.
     m_app.moveTo(menu->BtnProgram);
-    return save(
-        QStringLiteral("%1-main-menu-pointing.png").arg(m_written.size() + 1, 2, 10, QLatin1Char('0')));
+    if (!save(QStringLiteral("%1-main-menu-pointing.png")
+                  .arg(m_written.size() - m_rings + 1, 2, 10, QLatin1Char('0'))))
+        return false;
+    return ring(QStringLiteral("menu"), menu->BtnProgram);
+}
+
+bool ScreenTour::ring(const QString& name, QWidget* control) {
+    // By the keyboard only; the next click takes the ring away again.
+    m_app.moveTo(kPark);
+    for (int tab = 0; tab < 30 && !(tab > 0 && control->hasFocus()); ++tab) m_app.key(Qt::Key_Tab);
+    if (!control->hasFocus()) return fail(QStringLiteral("Tab never reached ") + name);
+    QTest::qWait(50);
+    ++m_rings; // outside the numbered stops
+    return save(QStringLiteral("focus-ring-%1.png").arg(name));
 }
 
 bool ScreenTour::scenario() {
@@ -177,6 +189,8 @@ bool ScreenTour::alarm() {
     setValue(alarm->BtnWakeupTime, alarm->txtWakeupTime, alarm->BtnWakeupTimeSet);
     m_app.click(alarm->BtnWakeupFreq3);
     if (!stop(QStringLiteral("alarm-wakeup-on"))) return false;
+    // The ring round a chosen (orange) button.
+    if (!ring(QStringLiteral("alarm"), alarm->BtnWakeupOn)) return false;
     m_app.click(alarm->BtnWakeupTime);
     if (!stop(QStringLiteral("alarm-wakeup-time-editor"))) return false;
     m_app.click(alarm->BtnWakeupTimeSet);

@@ -32,6 +32,9 @@ public:
         QTest::mouseRelease(handle(), Qt::LeftButton, Qt::NoModifier, pos);
     }
 
+    // A key typed into the window, as the keyboard does.
+    void key(Qt::Key key) { QTest::keyClick(handle(), key); }
+
     // The robot's remaining ticks taken at once; true when the menu's buttons are on view.
     bool waitForMainMenuReady(int timeoutMs) const {
         RobotSlide& slide = m_root->frmMainMenu->robotSlide;
