@@ -5,6 +5,7 @@
 #include "KeyboardNavigation.h"
 #include "LayoutTable.h"
 #include "NSColor.h"
+#include "SectionClick.h"
 #include "ViewAccessible.h"
 
 #include <QDateEdit>
@@ -147,6 +148,7 @@ void Frame_Alarm::InitEditView(NSViewS*& editor, NSImageViewS*& ground, QDateTim
 
     picker->setGeometry(MakeNSRect(18, 0, 195, 50).toRect());
     ApplyEntryFieldStyle(picker);
+    SectionClick::Install(picker);
     SetDatePickerElements(picker, elements);
     // A birthday is a calendar date and an alarm a time on the clock: the pickers hold them as
     // wall-clock fields in a spec without transitions, so no zone can skip, move or refuse one
