@@ -76,7 +76,7 @@ struct App {
         top->show();
         Bench::PaintCounter first(window.get());
         while (first.count() == 0) QCoreApplication::processEvents();
-        root->frmMainMenu->robotSlide.timer->stop();
+        root->frmMainMenu()->robotSlide.timer->stop();
     }
 
     void showOnly(QWidget* screen) {
@@ -152,7 +152,7 @@ namespace {
 Result RobotSlideFrames(int samples) {
     Result result{"Robot slide frame (one tick + repaint of the main menu)", "tick", {}, {}, 0, 1000};
     App app;
-    Frame_MainMenu* menu = app.root->frmMainMenu;
+    Frame_MainMenu* menu = app.root->frmMainMenu();
     Bench::PaintCounter paints(menu);
     NSImageViewS* robot = menu->imgRobot;
 
@@ -240,7 +240,7 @@ std::vector<Result> TimelineScroll(int samples) {
     Result arriving{
         "- the arriving ticks alone (1536 views moved, then put in place)", "tick", {}, {}, 0, 1000};
     App app;
-    Frame_Sound* sound = app.root->frmSound;
+    Frame_Sound* sound = app.root->frmSound();
     app.showOnly(sound);
     for (qint32 i = 0; i < kSoundContentItemMax; ++i) sound->Timeline.SetSoundContent(i % 36);
     Flush();
@@ -466,7 +466,7 @@ std::vector<Result> ScaledWindowTicks(int samples, bool wantRobot, bool wantTime
                     0,
                     1000};
     App direct, scaled(kSmallScreenFactor);
-    Frame_MainMenu* menus[2] = {scaled.root->frmMainMenu, direct.root->frmMainMenu};
+    Frame_MainMenu* menus[2] = {scaled.root->frmMainMenu(), direct.root->frmMainMenu()};
     Bench::PaintCounter paints(menus[0]);
     auto rewind = [](Frame_MainMenu* menu) {
         auto& slide = menu->robotSlide;
@@ -493,8 +493,8 @@ std::vector<Result> ScaledWindowTicks(int samples, bool wantRobot, bool wantTime
     if (!wantTimeline) return results;
 
     // Both sound screens at the end of a 512-item timeline, scrolled a page back and forth.
-    Frame_Sound* sounds[2] = {scaled.root->frmSound, direct.root->frmSound};
-    for (App* app : {&scaled, &direct}) app->showOnly(app->root->frmSound);
+    Frame_Sound* sounds[2] = {scaled.root->frmSound(), direct.root->frmSound()};
+    for (App* app : {&scaled, &direct}) app->showOnly(app->root->frmSound());
     for (Frame_Sound* sound : sounds)
         for (qint32 i = 0; i < kSoundContentItemMax; ++i) sound->Timeline.SetSoundContent(i % 36);
     Flush();

@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
     if (ready) {
         Frame_Control* root = RootView(window.get());
         Bench::Sample last{0, 0};
-        QObject::connect(root->frmMainMenu->robotSlide.timer, &QTimer::timeout, [&] {
+        QObject::connect(root->frmMainMenu()->robotSlide.timer, &QTimer::timeout, [&] {
             const Bench::Sample now{Bench::CpuNowNs(), Bench::WallNowNs()};
             if (last.wallNs) {
                 tickCpuUs.push_back((now.cpuNs - last.cpuNs) / 1000.0);
@@ -76,10 +76,10 @@ int main(int argc, char** argv) {
             last = now;
         });
         const std::int64_t give_up = Bench::WallNowNs() + 10'000'000'000LL;
-        while (!root->frmMainMenu->BtnProgram->isVisible() && Bench::WallNowNs() < give_up)
+        while (!root->frmMainMenu()->BtnProgram->isVisible() && Bench::WallNowNs() < give_up)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QCoreApplication::processEvents(); // paints the menu as it now stands
-        menuReady = root->frmMainMenu->BtnProgram->isVisible();
+        menuReady = root->frmMainMenu()->BtnProgram->isVisible();
     }
 #else
     menuReady = ready;

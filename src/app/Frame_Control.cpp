@@ -1,6 +1,5 @@
 #include "Frame_Control.h"
 
-#include "Button.h"
 #include "Frame_Alarm.h"
 #include "Frame_Face.h"
 #include "Frame_Lazer.h"
@@ -10,98 +9,103 @@
 #include "Frame_Sound.h"
 #include "KeyboardNavigation.h"
 
+namespace {
+
+NSViewS* MakeScreen(ScreenId id, const NSRect& frame) {
+    switch (id) {
+    case ScreenId::MainMenu:
+        return new Frame_MainMenu(frame);
+    case ScreenId::Scenario:
+        return new Frame_Scenario(frame);
+    case ScreenId::Alarm:
+        return new Frame_Alarm(frame);
+    case ScreenId::Movement:
+        return new Frame_MoveMent(frame);
+    case ScreenId::Sound:
+        return new Frame_Sound(frame);
+    case ScreenId::Face:
+        return new Frame_Face(frame);
+    case ScreenId::Lazer:
+        return new Frame_Lazer(frame);
+    }
+    return nullptr;
+}
+
+} // namespace
+
 NSRect Frame_Control::WindowFrame() {
     return MakeNSRect(0, 0, 1024, 768);
 }
 
 Frame_Control::Frame_Control(const NSRect& frame) : NSViewS(frame) {
-    InitFrame();
-    InitInterWorking();
+    // The menu buttons appear when the robot arrives: from then on every screen can be reached.
+    connect(&frmMainMenu()->robotSlide, &RobotSlide::arrived, this, [this] {
+        while (m_building.isActive()) BuildNextScreen();
+    });
+    connect(&m_navigator, &ScreenNavigator::switched, this, &Frame_Control::ShowScreen);
+    m_building.setInterval(0);
+    connect(&m_building, &QTimer::timeout, this, &Frame_Control::BuildNextScreen);
+    m_building.start();
 }
 
 Frame_Control::Frame_Control(QWidget* parent) : Frame_Control(WindowFrame()) {
     if (parent) addSubview(parent, this);
 }
 
-void Frame_Control::InitFrame() {
-    NSRect rect;
-    SetNSRect(&rect, 0, 0, 1024, 768);
-    frmMainMenu = new Frame_MainMenu(rect);
-    frmScenario = new Frame_Scenario(rect);
-    frmAlarm = new Frame_Alarm(rect);
-    frmMovement = new Frame_MoveMent(rect);
-    frmSound = new Frame_Sound(rect);
-    frmFace = new Frame_Face(rect);
-    frmLazer = new Frame_Lazer(rect);
+NSViewS* Frame_Control::ScreenOf(ScreenId id) const {
+    const auto index = static_cast<qsizetype>(id);
+    if (index < 0 || index >= kScreenCount) return nullptr;
+    if (NSViewS* screen = frmFrameRec[index]) return screen;
 
-    addSubview(frmMainMenu);
-    addSubview(frmScenario);
-    addSubview(frmAlarm);
-    addSubview(frmMovement);
-    addSubview(frmSound);
-    addSubview(frmFace);
-    addSubview(frmLazer);
+    // Each screen builds all its children before it is in the window, so hover registrations made
+    // while building never fire; every screen but the first starts hidden.
+    NSViewS* screen = MakeScreen(id, MakeNSRect(0, 0, 1024, 768));
+    screen->setHidden(id != ScreenId::MainMenu);
+    frmFrameRec[index] = screen;
+    auto* self = const_cast<Frame_Control*>(this);
+    self->addSubview(screen);
+    // The screens stack in the order of the table, whichever was built first.
+    for (NSViewS* built : frmFrameRec)
+        if (built) built->raise();
+    return screen;
 }
 
-void Frame_Control::InitFrameRecord(FRAMESRECORD* record) const {
-    if (!record) return;
-    record->frmFace = frmFace;
-    record->frmMainMenu = frmMainMenu;
-    record->frmMovement = frmMovement;
-    record->frmLazer = frmLazer;
-    record->frmSound = frmSound;
-    record->frmAlarm = frmAlarm;
-    record->frmScenario = frmScenario;
+void Frame_Control::BuildNextScreen() {
+    for (qsizetype i = 0; i < kScreenCount; ++i) {
+        if (frmFrameRec[i]) continue;
+        ScreenOf(static_cast<ScreenId>(i));
+        return;
+    }
+    m_building.stop();
 }
 
-void Frame_Control::InitInterWorking() {
-    frmScenario->setHidden(true);
-    frmAlarm->setHidden(true);
-    frmMovement->setHidden(true);
-    frmSound->setHidden(true);
-    frmFace->setHidden(true);
-    frmLazer->setHidden(true);
-
-    InitFrameRecord(&frmLazer->frmFrameRec);
-    InitFrameRecord(&frmFace->frmFrameRec);
-    InitFrameRecord(&frmMovement->frmFrameRec);
-    InitFrameRecord(&frmSound->frmFrameRec);
-    InitFrameRecord(&frmScenario->frmFrameRec);
-
-    // The menu's two ways out are the root view's own: their context is this view as the host.
-    ScreenHost* host = this;
-    frmMainMenu->BtnProgram->InitButtonAction(Frame_MainMenu_ScenarioBtnAcion, host);
-    frmMainMenu->BtnAlarm->InitButtonAction(Frame_MainMenu_AlarmBtnAcion, host);
-    connect(&m_navigator, &ScreenNavigator::switched, this, &Frame_Control::ShowScreen);
+Frame_MainMenu* Frame_Control::frmMainMenu() const {
+    return static_cast<Frame_MainMenu*>(ScreenOf(ScreenId::MainMenu));
+}
+Frame_Scenario* Frame_Control::frmScenario() const {
+    return static_cast<Frame_Scenario*>(ScreenOf(ScreenId::Scenario));
+}
+Frame_Alarm* Frame_Control::frmAlarm() const {
+    return static_cast<Frame_Alarm*>(ScreenOf(ScreenId::Alarm));
+}
+Frame_MoveMent* Frame_Control::frmMovement() const {
+    return static_cast<Frame_MoveMent*>(ScreenOf(ScreenId::Movement));
+}
+Frame_Sound* Frame_Control::frmSound() const {
+    return static_cast<Frame_Sound*>(ScreenOf(ScreenId::Sound));
+}
+Frame_Face* Frame_Control::frmFace() const {
+    return static_cast<Frame_Face*>(ScreenOf(ScreenId::Face));
+}
+Frame_Lazer* Frame_Control::frmLazer() const {
+    return static_cast<Frame_Lazer*>(ScreenOf(ScreenId::Lazer));
 }
 
 void Frame_Control::Follow(Route route) {
     m_navigator.follow(route);
 }
 
-NSViewS* Frame_Control::ScreenOf(ScreenId id) const {
-    switch (id) {
-    case ScreenId::MainMenu:
-        return frmMainMenu;
-    case ScreenId::Scenario:
-        return frmScenario;
-    case ScreenId::Alarm:
-        return frmAlarm;
-    case ScreenId::Movement:
-        return frmMovement;
-    case ScreenId::Sound:
-        return frmSound;
-    case ScreenId::Face:
-        return frmFace;
-    case ScreenId::Lazer:
-        return frmLazer;
-    }
-    return nullptr;
-}
-
 void Frame_Control::ShowScreen(ScreenId from, ScreenId to, bool trackingOn) {
-    // The alarm screen's Back leads to the screen that opened it.
-    if (to == ScreenId::Alarm) frmAlarm->frmPreframe = ScreenOf(from);
     ScreenOf(from)->setHidden(true);
     NSViewS* shown = ScreenOf(to);
     shown->setHidden(false);

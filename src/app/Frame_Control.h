@@ -1,13 +1,27 @@
 #pragma once
 
-#include "FRAMESRECORD.h"
 #include "NSViewS.h"
 #include "ScreenHost.h"
 #include "ScreenNavigator.h"
 
-// The window's content view: creates the seven screens once, stacks them in one place and
-// shows only the main menu. Screens are never created, moved or destroyed after this; they are
-// only hidden and shown.
+#include <QTimer>
+
+#include <array>
+
+class Frame_MainMenu;
+class Frame_Scenario;
+class Frame_Alarm;
+class Frame_MoveMent;
+class Frame_Sound;
+class Frame_Face;
+class Frame_Lazer;
+
+// The window's content view: holds the seven screens, stacked in one place, and shows one at a
+// time. The main menu is built with the view; the six others, which nobody can reach before the
+// robot has arrived, are built one per pass of the event loop once the window is up, so that the
+// first frame waits only for the menu. Any screen needed before its turn is built there and
+// then, so nothing ever finds one missing. Screens are never moved or destroyed; they are only
+// hidden and shown.
 class Frame_Control : public NSViewS, public ScreenHost {
     Q_OBJECT
 public:
@@ -15,17 +29,14 @@ public:
     // The interface file makes the content view with its parent; it always fills the window.
     explicit Frame_Control(QWidget* parent);
 
-    void InitFrame();
-    void InitFrameRecord(FRAMESRECORD* record) const;
-    void InitInterWorking();
-
-    Frame_MainMenu* frmMainMenu = nullptr;
-    Frame_Scenario* frmScenario = nullptr;
-    Frame_MoveMent* frmMovement = nullptr;
-    Frame_Face* frmFace = nullptr;
-    Frame_Lazer* frmLazer = nullptr;
-    Frame_Sound* frmSound = nullptr;
-    Frame_Alarm* frmAlarm = nullptr;
+    // The screens, each built the first time it is needed.
+    Frame_MainMenu* frmMainMenu() const;
+    Frame_Scenario* frmScenario() const;
+    Frame_Alarm* frmAlarm() const;
+    Frame_MoveMent* frmMovement() const;
+    Frame_Sound* frmSound() const;
+    Frame_Face* frmFace() const;
+    Frame_Lazer* frmLazer() const;
 
     static NSRect WindowFrame();
 
@@ -33,9 +44,17 @@ public:
     const ScreenNavigator& navigator() const { return m_navigator; }
 
 private:
+    static constexpr qsizetype kScreenCount = static_cast<qsizetype>(ScreenId::Lazer) + 1;
+
+    // The screen, built if it was not yet.
+    NSViewS* ScreenOf(ScreenId id) const;
+    void BuildNextScreen();
     // The one place where screens are switched.
     void ShowScreen(ScreenId from, ScreenId to, bool trackingOn);
-    NSViewS* ScreenOf(ScreenId id) const;
 
+    // Indexed by ScreenId; empty until the screen is built. Building is not a change anyone
+    // sees, so the accessors stay const.
+    mutable std::array<NSViewS*, kScreenCount> frmFrameRec{};
+    QTimer m_building;
     ScreenNavigator m_navigator;
 };

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-void ScreenHost::Follow(const QWidget* screen, Route route) {
+void ScreenHost::FollowFrom(const QWidget* screen, Route route) {
     if (auto* host = dynamic_cast<ScreenHost*>(screen ? screen->parentWidget() : nullptr))
         host->Follow(route);
 }

@@ -10,8 +10,8 @@ class ScreenHost {
 public:
     virtual void Follow(Route route) = 0;
 
-    // The route taken by the host of `screen`, if it has one.
-    static void Follow(const QWidget* screen, Route route);
+    // The route taken by the host of `screen`, if it has one: every screen's way out.
+    static void FollowFrom(const QWidget* screen, Route route);
 
 protected:
     ~ScreenHost() = default;

@@ -62,13 +62,14 @@ private slots:
     void everyCaptionFitsItsView() {
         QFETCH(int, state);
         AppHarness app;
+        QVERIFY(app.waitForMainMenuReady());
         Frame_Control* r = app.root();
-        for (const ButtonCallback action : kStates[state].alarm) action(r->frmAlarm, nullptr);
+        for (const ButtonCallback action : kStates[state].alarm) action(r->frmAlarm(), nullptr);
         for (int page = 0; page < kStates[state].soundPagesOn; ++page)
-            Frame_Sound_PageNextBtnAcion(r->frmSound, nullptr);
+            Frame_Sound_PageNextBtnAcion(r->frmSound(), nullptr);
         if (kStates[state].fullTimeline)
             for (int i = 0; i < kSoundContentItemMax; ++i)
-                r->frmSound->Timeline.SetSoundContent(i % kSoundSetCount);
+                r->frmSound()->Timeline.SetSoundContent(i % kSoundSetCount);
         QString cut;
         int captions = 0;
         for (const NSImageViewS* view : r->findChildren<NSImageViewS*>()) {

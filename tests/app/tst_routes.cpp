@@ -30,11 +30,11 @@ QWidget* OnView(QWidget* root, const QString& name) {
 // The screen on view, and on the alarm screen its page and whether an editor is open.
 QString Shown(const AppHarness& app) {
     const Frame_Control* r = app.root();
-    const QHash<QString, QWidget*> screens = {{"main menu", r->frmMainMenu}, {"scenario", r->frmScenario},
-                                              {"alarm", r->frmAlarm},        {"movement", r->frmMovement},
-                                              {"sound", r->frmSound},        {"laser", r->frmLazer}};
+    const QHash<QString, QWidget*> screens = {{"main menu", r->frmMainMenu()}, {"scenario", r->frmScenario()},
+                                              {"alarm", r->frmAlarm()},        {"movement", r->frmMovement()},
+                                              {"sound", r->frmSound()},        {"laser", r->frmLazer()}};
     QString shown = screens.key(app.shownScreen(), QStringLiteral("?"));
-    const Frame_Alarm* a = r->frmAlarm;
+    const Frame_Alarm* a = r->frmAlarm();
     if (shown != QLatin1String("alarm")) return shown;
     const QList<std::pair<const char*, QWidget*>> pages = {{"confirmation", a->frmDoneView},
                                                            {"choose", a->frmChooseView},
@@ -160,7 +160,7 @@ private slots:
                 continue;
             }
             if (step == QLatin1String("confirmation ends")) {
-                app.root()->frmAlarm->flow.DoneView();
+                app.root()->frmAlarm()->flow.DoneView();
                 continue;
             }
             // The focus may follow once the change that moved it is over.

@@ -41,16 +41,17 @@ QStringList AppInvariants(const Frame_Control* root) {
     };
 
     // In the order of ScreenId.
-    const QWidget* screens[] = {root->frmMainMenu, root->frmScenario, root->frmAlarm, root->frmMovement,
-                                root->frmSound,    root->frmFace,     root->frmLazer};
+    const QWidget* screens[] = {root->frmMainMenu(), root->frmScenario(), root->frmAlarm(),
+                                root->frmMovement(), root->frmSound(),    root->frmFace(),
+                                root->frmLazer()};
     const int expected = int(root->navigator().shown());
     const auto onView = std::count_if(std::begin(screens), std::end(screens), shown);
     expect(onView == 1 && shown(screens[expected]),
            QStringLiteral("%1 screens shown, the navigator's is %2").arg(onView).arg(expected));
 
     // At rest every timeline item also stands where the layout puts it for the page on view.
-    const SOUNDSETCONTENT& c = root->frmSound->SoundContent;
-    const SoundTimeline& t = root->frmSound->Timeline;
+    const SOUNDSETCONTENT& c = root->frmSound()->SoundContent;
+    const SoundTimeline& t = root->frmSound()->Timeline;
     bool inStep = t.iItemNum >= 0 && t.iItemNum <= kSoundContentItemMax &&
                   children(c.frmSoundContent) == 3 * t.iItemNum;
     for (qint32 i = 0; i < kSoundContentItemMax && inStep; ++i) {
@@ -72,7 +73,7 @@ QStringList AppInvariants(const Frame_Control* root) {
 
     using Page = AlarmFlow::Page;
     using Editor = AlarmFlow::Editor;
-    const Frame_Alarm* a = root->frmAlarm;
+    const Frame_Alarm* a = root->frmAlarm();
     const Page page = a->flow.page();
     const Editor editor = a->flow.editor();
     const std::pair<const QWidget*, bool> views[] = {
@@ -92,16 +93,16 @@ QStringList AppInvariants(const Frame_Control* root) {
         expect(button->captionText() == text,
                QStringLiteral("alarm button shows \"%1\"").arg(button->captionText()));
 
-    const SoundSetBoard& board = root->frmSound->Board;
+    const SoundSetBoard& board = root->frmSound()->Board;
     wrong = -1;
     for (qint32 i = Frame_Sound::kBtnSoundFirst; i <= Frame_Sound::kBtnSoundLast && wrong < 0; ++i)
-        if (const Button* b = root->frmSound->BtnButton[i];
+        if (const Button* b = root->frmSound()->BtnButton[i];
             b->captionText() != QLatin1String(SoundSetName(board.SoundOf(i))) ||
             (b->BtnImageUp.name() == QLatin1String(SoundPictures::kMark)) != board.MarkOn(i))
             wrong = i;
     expect(wrong < 0, QStringLiteral("sound button %1 out of step with its board").arg(wrong));
 
-    const Frame_Scenario* s = root->frmScenario;
+    const Frame_Scenario* s = root->frmScenario();
     const ScenarioList& list = s->list;
     wrong = -1;
     for (qint32 r = 0; r < ScenarioList::kRows && wrong < 0; ++r)
@@ -117,9 +118,9 @@ QStringList AppInvariants(const Frame_Control* root) {
 
     // The robot's slide runs until it arrives and the menu comes alive then; a timeline scroll's
     // timer is kept exactly while it runs.
-    const RobotSlide& slide = root->frmMainMenu->robotSlide;
+    const RobotSlide& slide = root->frmMainMenu()->robotSlide;
     expect(!(slide.timer && slide.timer->isActive() == slide.hasArrived()) &&
-               shown(root->frmMainMenu->BtnProgram) == slide.hasArrived(),
+               shown(root->frmMainMenu()->BtnProgram) == slide.hasArrived(),
            QStringLiteral("the robot's timer or the menu's buttons out of step with the robot"));
     expect(!t.timer || t.timer->isActive(), QStringLiteral("a scroll timer is kept but stopped"));
 
@@ -195,7 +196,7 @@ struct Hand {
     QPoint aim() {
         // Done with an alarm on holds the screen for seconds under the confirmation page; aimed at
         // as often as the rest it would spend most of a run waiting.
-        const QWidget* done = m_app.root()->frmAlarm->BtnDone;
+        const QWidget* done = m_app.root()->frmAlarm()->BtnDone;
         std::vector<QWidget*> controls;
         if (QWidget* screen = m_app.shownScreen())
             for (QWidget* w : screen->findChildren<QWidget*>())
@@ -242,7 +243,7 @@ struct Hand {
 
     int step() { // answers the kind of input sent
         // The confirmation page takes every click for a few seconds: mostly let it run out.
-        if (m_app.root()->frmAlarm->frmDoneView->isVisible() && chance(60)) {
+        if (m_app.root()->frmAlarm()->frmDoneView->isVisible() && chance(60)) {
             wait(100 + below(400));
             return Wait;
         }
@@ -311,7 +312,7 @@ Monkey::Result Monkey::Run(quint64 seed, qint64 inputs, const std::function<bool
     }
     // The rules must hold at rest as well, once the scroll and the confirmation have run out.
     const auto atRest = [root = app.root()] {
-        return !root->frmSound->Timeline.Busy() && !root->frmAlarm->frmDoneView->isVisible();
+        return !root->frmSound()->Timeline.Busy() && !root->frmAlarm()->frmDoneView->isVisible();
     };
     if (result.ok() && !QTest::qWaitFor(atRest, 60000))
         monkey.m_broken << QStringLiteral("the scroll or the confirmation page never ended");

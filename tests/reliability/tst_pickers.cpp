@@ -23,7 +23,7 @@ void UseZone(const QByteArray& zone) {
 // One picker's editor opened by clicks from the main menu: the picker, the button showing its
 // value and the button that sets it.
 std::tuple<QDateTimeEdit*, Button*, Button*> OpenEditor(AppHarness& app, Picker p) {
-    Frame_Alarm* a = app.root()->frmAlarm;
+    Frame_Alarm* a = app.root()->frmAlarm();
     const std::tuple<QDateTimeEdit*, Button*, Button*> parts[] = {
         {a->txtBirthDate, a->BtnBirthDate, a->BtnBirthDateSet},
         {a->txtBirthTime, a->BtnBirthTime, a->BtnBirthTimeSet},
@@ -31,7 +31,7 @@ std::tuple<QDateTimeEdit*, Button*, Button*> OpenEditor(AppHarness& app, Picker 
     const bool wakeup = p == WakeupTime;
     if (app.waitForMainMenuReady())
         for (const QWidget* w :
-             {app.root()->frmMainMenu->BtnAlarm, wakeup ? a->BtnWakeupStatus : a->BtnBirthdayStatus,
+             {app.root()->frmMainMenu()->BtnAlarm, wakeup ? a->BtnWakeupStatus : a->BtnBirthdayStatus,
               wakeup ? a->BtnWakeupOn : a->BtnBirthdayOn, std::get<1>(parts[p])})
             app.click(w);
     return parts[p];

@@ -49,9 +49,9 @@ public:
     // The main menu's robot arrives after about a second; tests that start elsewhere take its
     // ticks at once (the slide's own timing is tested on the model).
     bool waitForMainMenuReady(int timeoutMs = 5000) const {
-        RobotSlide& slide = m_root->frmMainMenu->robotSlide;
+        RobotSlide& slide = m_root->frmMainMenu()->robotSlide;
         for (int tick = 0; tick < 1000 && !slide.hasArrived(); ++tick) slide.RobotAction();
-        return QTest::qWaitFor([this] { return m_root->frmMainMenu->BtnProgram->isVisible(); }, timeoutMs);
+        return QTest::qWaitFor([this] { return m_root->frmMainMenu()->BtnProgram->isVisible(); }, timeoutMs);
     }
 
     // The one screen (a direct child of the root view) not hidden; null when there are more.

@@ -6,7 +6,6 @@
 #include "Button.h"
 #include "ButtonAccessible.h"
 #include "FocusRing.h"
-#include "ViewKit.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
 #include "Frame_Lazer.h"
@@ -14,6 +13,7 @@
 #include "Frame_Scenario.h"
 #include "Frame_Sound.h"
 #include "NSColor.h"
+#include "ViewKit.h"
 
 #include <QAccessible>
 #include <QBitmap>
@@ -274,7 +274,7 @@ private slots:
         QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(u", "_s)));
         for (const QWidget* field : app.root()->findChildren<QDateTimeEdit*>())
             QVERIFY(!field->accessibleName().isEmpty());
-        QVERIFY(!app.root()->frmScenario->txtScenarioName->accessibleName().isEmpty());
+        QVERIFY(!app.root()->frmScenario()->txtScenarioName->accessibleName().isEmpty());
         for (NSViewS* screen : app.root()->findChildren<NSViewS*>(Qt::FindDirectChildrenOnly)) {
             QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(screen);
             QVERIFY(iface->role() == QAccessible::Grouping && !iface->text(QAccessible::Name).isEmpty());
@@ -289,10 +289,10 @@ private slots:
     void choicesAreCheckedOrSelected() {
         AppHarness app;
         Frame_Control* r = app.root();
-        Frame_Alarm* a = r->frmAlarm;
-        Frame_Scenario* s = r->frmScenario;
-        Button* const* sound = r->frmSound->BtnButton;
-        Frame_Lazer* l = r->frmLazer;
+        Frame_Alarm* a = r->frmAlarm();
+        Frame_Scenario* s = r->frmScenario();
+        Button* const* sound = r->frmSound()->BtnButton;
+        Frame_Lazer* l = r->frmLazer();
         for (Button* b : {a->BtnWakeupStatus, a->BtnWakeupOn, a->BtnWakeupFreq2, s->BtnModify,
                           s->BtnScenarioName[2], sound[Frame_Sound::kBtnSoundLast], l->BtnLazer3})
             b->click();

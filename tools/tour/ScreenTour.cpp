@@ -51,7 +51,7 @@ bool ScreenTour::run() {
 }
 
 bool ScreenTour::mainMenu() {
-    Frame_MainMenu* menu = m_app.root()->frmMainMenu;
+    Frame_MainMenu* menu = m_app.root()->frmMainMenu();
     // Half way up, at the same tick on every run.
     RobotSlide& slide = menu->robotSlide;
     slide.timer->stop();
@@ -79,8 +79,8 @@ bool ScreenTour::ring(const QString& name, QWidget* control) {
 }
 
 bool ScreenTour::scenario() {
-    Frame_Scenario* scenario = m_app.root()->frmScenario;
-    m_app.click(m_app.root()->frmMainMenu->BtnProgram);
+    Frame_Scenario* scenario = m_app.root()->frmScenario();
+    m_app.click(m_app.root()->frmMainMenu()->BtnProgram);
     if (m_app.shownScreen() != scenario) return fail(QStringLiteral("no scenario screen"));
     if (!stop(QStringLiteral("scenario"))) return false;
 
@@ -94,19 +94,19 @@ bool ScreenTour::scenario() {
     if (!stop(QStringLiteral("scenario-create"))) return false;
 
     m_app.click(scenario->BtnNewCreate);
-    if (m_app.shownScreen() != m_app.root()->frmMovement)
+    if (m_app.shownScreen() != m_app.root()->frmMovement())
         return fail(QStringLiteral("Create did not open the movement screen"));
     return stop(QStringLiteral("movement"));
 }
 
 bool ScreenTour::editors() {
     Frame_Control* root = m_app.root();
-    Frame_Sound* sound = root->frmSound;
+    Frame_Sound* sound = root->frmSound();
     const auto settled = [sound] {
         return QTest::qWaitFor([sound] { return !sound->Timeline.timer; }, 10000);
     };
 
-    m_app.click(root->frmMovement->BtnSound);
+    m_app.click(root->frmMovement()->BtnSound);
     if (m_app.shownScreen() != sound) return fail(QStringLiteral("no sound screen"));
     if (!stop(QStringLiteral("sound"))) return false;
 
@@ -124,7 +124,7 @@ bool ScreenTour::editors() {
     m_app.click(sound->BtnButton[Frame_Sound::kBtnPageNext]);
     if (!stop(QStringLiteral("sound-set-page-3"))) return false;
 
-    Frame_Lazer* lazer = root->frmLazer;
+    Frame_Lazer* lazer = root->frmLazer();
     m_app.click(sound->BtnButton[Frame_Sound::kBtnLazer]);
     if (m_app.shownScreen() != lazer) return fail(QStringLiteral("no laser screen"));
     const std::pair<Button*, const char*> configurations[] = {
@@ -139,17 +139,17 @@ bool ScreenTour::editors() {
 
     // No control leads to the face screen; it is shown here directly, for the record.
     lazer->setHidden(true);
-    root->frmFace->setHidden(false);
+    root->frmFace()->setHidden(false);
     if (!stop(QStringLiteral("face"))) return false;
-    root->frmFace->setHidden(true);
+    root->frmFace()->setHidden(true);
     lazer->setHidden(false);
     lazer->ButtonTrackingOn();
 
     // Back, Back, Back: sound, movement, main menu.
     m_app.click(lazer->BtnBack);
     m_app.click(sound->BtnButton[Frame_Sound::kBtnBack]);
-    m_app.click(root->frmMovement->BtnBack);
-    if (m_app.shownScreen() != root->frmMainMenu)
+    m_app.click(root->frmMovement()->BtnBack);
+    if (m_app.shownScreen() != root->frmMainMenu())
         return fail(QStringLiteral("the Back chain did not end on the menu"));
     return true;
 }
@@ -162,8 +162,8 @@ void ScreenTour::setValue(Button* open, QDateTimeEdit* picker, Button* set) {
 
 bool ScreenTour::alarm() {
     Frame_Control* root = m_app.root();
-    Frame_Alarm* alarm = root->frmAlarm;
-    m_app.click(root->frmMainMenu->BtnAlarm);
+    Frame_Alarm* alarm = root->frmAlarm();
+    m_app.click(root->frmMainMenu()->BtnAlarm);
     if (m_app.shownScreen() != alarm) return fail(QStringLiteral("no alarm screen"));
     if (!stop(QStringLiteral("alarm-choose"))) return false;
 

@@ -37,9 +37,9 @@ public:
 
     // The robot's remaining ticks taken at once; true when the menu's buttons are on view.
     bool waitForMainMenuReady(int timeoutMs) const {
-        RobotSlide& slide = m_root->frmMainMenu->robotSlide;
+        RobotSlide& slide = m_root->frmMainMenu()->robotSlide;
         for (int tick = 0; tick < 1000 && !slide.hasArrived(); ++tick) slide.RobotAction();
-        return QTest::qWaitFor([this] { return m_root->frmMainMenu->BtnProgram->isVisible(); }, timeoutMs);
+        return QTest::qWaitFor([this] { return m_root->frmMainMenu()->BtnProgram->isVisible(); }, timeoutMs);
     }
 
     // The one screen of the root view not hidden; null when there are more.

@@ -73,7 +73,6 @@ public:
     Button* BtnWakeupFreq1 = nullptr;
     Button* BtnWakeupFreq2 = nullptr;
     Button* BtnWakeupFreq3 = nullptr;
-    NSViewS* frmPreframe = nullptr; // where Back leads from the choose page; not owned
     NSViewS* frmChooseView = nullptr;
     NSViewS* frmBirthTimeDateButtonView = nullptr;
     NSViewS* frmBirthdayControlView = nullptr;

@@ -241,8 +241,8 @@ void Frame_Alarm_BackToMainMenuBtnAction(void* context, Button*) {
     Frame_Alarm* s = Screen(context);
     if (!s) return;
     NSLog(QStringLiteral("BackToMainMenu"));
-    // Without a screen to go back to, staying put beats leaving the window empty.
-    if (s->frmPreframe) ScreenHost::Follow(s, Route::AlarmBack);
+    // The route is taken only while the alarm screen is the one shown; otherwise it stays put.
+    ScreenHost::FollowFrom(s, Route::AlarmBack);
 }
 
 void Frame_Alarm_DoneBtnAction(void* context, Button*) {

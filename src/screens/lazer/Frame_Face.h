@@ -1,6 +1,5 @@
 #pragma once
 
-#include "FRAMESRECORD.h"
 #include "NSImageViewS.h"
 
 // A full-window page holding only the background. No control shows it; it stays hidden for the
@@ -11,5 +10,4 @@ public:
     explicit Frame_Face(const NSRect& frame);
 
     NSImageViewS* imgBackGround = nullptr;
-    FRAMESRECORD frmFrameRec;
 };

@@ -90,11 +90,12 @@ void Frame_Lazer::ButtonTrackingOn() {
 }
 
 void Frame_Lazer_SoundBtnAcion(void* context, Button*) {
-    if (auto* screen = static_cast<Frame_Lazer*>(context)) ScreenHost::Follow(screen, Route::LazerSound);
+    if (auto* screen = static_cast<Frame_Lazer*>(context)) ScreenHost::FollowFrom(screen, Route::LazerSound);
 }
 
 void Frame_Lazer_MovementBtnAcion(void* context, Button*) {
-    if (auto* screen = static_cast<Frame_Lazer*>(context)) ScreenHost::Follow(screen, Route::LazerMovement);
+    if (auto* screen = static_cast<Frame_Lazer*>(context))
+        ScreenHost::FollowFrom(screen, Route::LazerMovement);
 }
 
 void Frame_Lazer_BtnLazerBtnAcion(void* context, Button* button) {

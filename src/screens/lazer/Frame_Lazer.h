@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Button.h"
-#include "FRAMESRECORD.h"
 #include "LazerConfiguration.h"
 
 // The page on which the user says which of the three robot configurations was built. The choice
@@ -30,7 +29,6 @@ public:
     Button* BtnPlay = nullptr;
     NSImageViewS* txtAnimation = nullptr;
     NSImageViewS* imgLazerType = nullptr;
-    FRAMESRECORD frmFrameRec;
     NSImageViewS* txtLazerDescription = nullptr;
     NSImageViewS* txtLazerTitle = nullptr;
     NSImageViewS* txtLazerTag = nullptr;

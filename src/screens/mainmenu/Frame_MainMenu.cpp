@@ -17,12 +17,14 @@ const char* const kAlarmText = "Alarm/Clock";
 const char* const kSyncText = "Synchronization";
 
 // Pointed at, a menu button's caption turns white; left, orange again.
-Layout::Row MenuButton(Button** field, qint32 y, const char* family, const char* name, bool hidden) {
+Layout::Row MenuButton(Button** field, qint32 y, const char* family, const char* name, bool hidden,
+                       ButtonCallback action = nullptr) {
     Layout::Row row = Layout::Family(field, MakeNSRect(607, y, 250, 93), family, "_normal_menus",
                                      "_focused_menus", "_selected_menus", name);
     row.hidden = hidden;
     row.entered = Frame_MainMenu_MenuBtnEntered;
     row.exited = Frame_MainMenu_MenuBtnExited;
+    row.action = action;
     return row;
 }
 
@@ -36,18 +38,19 @@ Frame_MainMenu::Frame_MainMenu(const NSRect& frame) : NSViewS(frame) {
     setAccessibleName(QStringLiteral("Main menu"));
     // The menu waits for the robot.
     const bool waiting = !robotSlide.hasArrived();
-    Layout::Build(this,
-                  {
-                      {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "mainpage_bg"},
-                      {.image = &imgRobot,
-                       .frame = MakeNSRect(0, static_cast<qint32>(robotSlide.y), 596, 584),
-                       .up = "logo_main"},
-                      MenuButton(&BtnProgram, 172, "command", kProgramText, waiting),
-                      MenuButton(&BtnAlarm, 297, "clock", kAlarmText, waiting),
-                      MenuButton(&BtnSync, 421, "usb", kSyncText, waiting),
-                      Layout::SilverButton(&BtnSetting, MakeNSRect(689, 706, 85, 40), {}, waiting),
-                      Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
-                  });
+    Layout::Build(
+        this,
+        {
+            {.image = &imgBackGround, .frame = MakeNSRect(0, 0, 1024, 768), .up = "mainpage_bg"},
+            {.image = &imgRobot,
+             .frame = MakeNSRect(0, static_cast<qint32>(robotSlide.y), 596, 584),
+             .up = "logo_main"},
+            MenuButton(&BtnProgram, 172, "command", kProgramText, waiting, Frame_MainMenu_ScenarioBtnAcion),
+            MenuButton(&BtnAlarm, 297, "clock", kAlarmText, waiting, Frame_MainMenu_AlarmBtnAcion),
+            MenuButton(&BtnSync, 421, "usb", kSyncText, waiting),
+            Layout::SilverButton(&BtnSetting, MakeNSRect(689, 706, 85, 40), {}, waiting),
+            Layout::HelpButton(&BtnQuestion, MakeNSRect(56, 39, 29, 28)),
+        });
 
     connect(&robotSlide, &RobotSlide::arrived, this, &Frame_MainMenu::ButtonTrackingOn);
     connect(&robotSlide, &RobotSlide::moved, this, [this](float y) {
@@ -95,9 +98,9 @@ void Frame_MainMenu_MenuBtnExited(void* context, Button* button) {
 }
 
 void Frame_MainMenu_ScenarioBtnAcion(void* context, Button*) {
-    if (auto* host = static_cast<ScreenHost*>(context)) host->Follow(Route::MainMenuProgram);
+    ScreenHost::FollowFrom(Menu(context), Route::MainMenuProgram);
 }
 
 void Frame_MainMenu_AlarmBtnAcion(void* context, Button*) {
-    if (auto* host = static_cast<ScreenHost*>(context)) host->Follow(Route::MainMenuAlarm);
+    ScreenHost::FollowFrom(Menu(context), Route::MainMenuAlarm);
 }

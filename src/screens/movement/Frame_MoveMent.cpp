@@ -133,15 +133,17 @@ void Frame_MoveMent::ShowPiece(const std::optional<PATHITEMSTRUCT>& piece) {
 }
 
 void Frame_Movement_SoundBtnAcion(void* context, Button*) {
-    if (auto* self = static_cast<Frame_MoveMent*>(context)) ScreenHost::Follow(self, Route::MovementSound);
+    if (auto* self = static_cast<Frame_MoveMent*>(context))
+        ScreenHost::FollowFrom(self, Route::MovementSound);
 }
 
 void Frame_Movement_LazerBtnAcion(void* context, Button*) {
-    if (auto* self = static_cast<Frame_MoveMent*>(context)) ScreenHost::Follow(self, Route::MovementLazer);
+    if (auto* self = static_cast<Frame_MoveMent*>(context))
+        ScreenHost::FollowFrom(self, Route::MovementLazer);
 }
 
 void Frame_Movement_BackBtnAcion(void* context, Button*) {
-    if (auto* self = static_cast<Frame_MoveMent*>(context)) ScreenHost::Follow(self, Route::MovementBack);
+    if (auto* self = static_cast<Frame_MoveMent*>(context)) ScreenHost::FollowFrom(self, Route::MovementBack);
 }
 
 // The bricks do not extend the path yet: which brick sends which command is still open.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Button.h"
-#include "FRAMESRECORD.h"
 #include "PATHMAINSTRUCT.h"
 
 #include <optional>
@@ -50,7 +49,6 @@ public:
     Button* BtnErase = nullptr;
     Button* BtnRetPlay = nullptr;
     Button* BtnBack = nullptr;
-    FRAMESRECORD frmFrameRec;
     PATHMAINSTRUCT PathInfo;
     NSViewS* frmPath = nullptr;
     NSImageViewS* PathImg[PathPlacement::kMaxPieces] = {}; // the view of each piece of PathInfo

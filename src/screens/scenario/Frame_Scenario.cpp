@@ -186,14 +186,14 @@ void Frame_Scenario_GoMoveMentBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
     screen->list.Leave();
-    ScreenHost::Follow(screen, Route::ScenarioGo);
+    ScreenHost::FollowFrom(screen, Route::ScenarioGo);
 }
 
 void Frame_Scenario_BackBtnAction(void* context, Button*) {
     Frame_Scenario* screen = Screen(context);
     if (!screen) return;
     screen->list.Leave();
-    ScreenHost::Follow(screen, Route::ScenarioBack);
+    ScreenHost::FollowFrom(screen, Route::ScenarioBack);
 }
 
 void Frame_Scenario_NameBtnAction(void* context, Button* button) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Button.h"
-#include "FRAMESRECORD.h"
 #include "ScenarioList.h"
 
 #include <QLineEdit>
@@ -47,7 +46,6 @@ public:
     Button* BtnBack = nullptr;
     NSImageViewS* txtAlarmDescription = nullptr;
     NSViewS* frmLoadScenarioView = nullptr;
-    FRAMESRECORD frmFrameRec;
 };
 
 void Frame_Scenario_CreateBtnAction(void* context, Button* button);

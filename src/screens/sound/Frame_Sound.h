@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Button.h"
-#include "FRAMESRECORD.h"
 #include "NSImageViewS.h"
 #include "SOUNDSETCONTENT.h"
 #include "SoundSetBoard.h"
@@ -49,7 +48,6 @@ public:
     NSImageViewS* imgBackGround = nullptr;
     NSImageViewS* txtString[kTextCount] = {};
     Button* BtnButton[kButtonCount] = {};
-    FRAMESRECORD frmFrameRec;
     SOUNDSETCONTENT SoundContent;
     SoundTimeline Timeline;
     // The sound set page and the mark; the sound buttons and the page arrows pass presses into it.

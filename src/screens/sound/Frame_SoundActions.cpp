@@ -107,7 +107,7 @@ Frame_Sound* Screen(void* context) {
 } // namespace
 
 void Frame_Sound_MoveMentBtnAcion(void* context, Button*) {
-    if (Frame_Sound* sound = Screen(context)) ScreenHost::Follow(sound, Route::SoundMovement);
+    if (Frame_Sound* sound = Screen(context)) ScreenHost::FollowFrom(sound, Route::SoundMovement);
 }
 
 void Frame_Sound_BackBtnAcion(void* context, Button* button) {
@@ -115,7 +115,7 @@ void Frame_Sound_BackBtnAcion(void* context, Button* button) {
 }
 
 void Frame_Sound_LazerBtnAcion(void* context, Button*) {
-    if (Frame_Sound* sound = Screen(context)) ScreenHost::Follow(sound, Route::SoundLazer);
+    if (Frame_Sound* sound = Screen(context)) ScreenHost::FollowFrom(sound, Route::SoundLazer);
 }
 
 void Frame_Sound_PagePreBtnAcion(void* context, Button*) {
