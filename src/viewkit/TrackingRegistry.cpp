@@ -8,7 +8,9 @@
 #include <QMouseEvent>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -41,6 +43,17 @@ std::optional<QPoint> InRoot(const QWidget* root, const QWindow* window, QPointF
 
 QPointer<TrackingRegistry> g_registry;
 
+// The grid that finds the registrations under the pointer: cells of 32 points.
+constexpr int kCell = 32;
+
+int Clamped(int v, int count) {
+    return std::clamp(v / kCell, 0, count - 1);
+}
+
+void Erase(std::vector<int>& list, int value) {
+    list.erase(std::remove(list.begin(), list.end(), value), list.end());
+}
+
 } // namespace
 
 TrackingRegistry::TrackingRegistry(QObject* owner) : QObject(owner) {
@@ -59,8 +72,50 @@ void TrackingRegistry::add(QWidget* view, const QRect& rect, HoverOwner* owner, 
     if (!root || !WindowShowing(root)) return;
 
     const QRect inRoot = rect.translated(view->mapTo(root, QPoint(0, 0)));
-    m_registrations.push_back({root, inRoot, owner, ownerView, assumeInside});
+    addToGroup(rootOf(root), inRoot, assumeInside, {owner, ownerView, 1});
     watch(root);
+}
+
+TrackingRegistry::Root& TrackingRegistry::rootOf(QWidget* widget) {
+    for (Root& root : m_roots)
+        if (root.key == widget && root.widget) return root;
+    Root& root = m_roots.emplace_back();
+    root.key = widget;
+    root.widget = widget;
+    root.columns = std::max(1, (widget->width() + kCell - 1) / kCell);
+    root.rows = std::max(1, (widget->height() + kCell - 1) / kCell);
+    root.cells.resize(static_cast<size_t>(root.columns * root.rows));
+    return root;
+}
+
+void TrackingRegistry::addToGroup(Root& root, const QRect& rect, bool inside, const Holder& holder) {
+    // Another registration of the same rectangle in the same state joins its group.
+    const auto cell = static_cast<size_t>(Clamped(rect.top(), root.rows) * root.columns +
+                                          Clamped(rect.left(), root.columns));
+    for (int g : root.cells[cell]) {
+        Group& group = root.groups[static_cast<size_t>(g)];
+        if (group.rect != rect || group.inside != inside) continue;
+        for (Holder& h : group.holders) {
+            if (h.owner != holder.owner || h.ownerView != holder.ownerView) continue;
+            h.count += holder.count;
+            return;
+        }
+        group.holders.push_back(holder);
+        return;
+    }
+
+    int g = static_cast<int>(root.groups.size());
+    if (root.freeGroups.empty()) {
+        root.groups.emplace_back();
+    } else {
+        g = root.freeGroups.back();
+        root.freeGroups.pop_back();
+    }
+    root.groups[static_cast<size_t>(g)] = {rect, inside, {holder}};
+    for (int y = Clamped(rect.top(), root.rows); y <= Clamped(rect.bottom(), root.rows); ++y)
+        for (int x = Clamped(rect.left(), root.columns); x <= Clamped(rect.right(), root.columns); ++x)
+            root.cells[static_cast<size_t>(y * root.columns + x)].push_back(g);
+    if (inside) root.inside.push_back(g);
 }
 
 void TrackingRegistry::watch(QWidget* root) {
@@ -96,30 +151,61 @@ bool TrackingRegistry::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void TrackingRegistry::pointerMoved(QWindow* window, bool present, QPointF pos) {
-    // Callbacks may add registrations (and so reallocate the vector): work on indices, and only
-    // on the registrations that existed when the pointer moved. Exits go before enters, so a
-    // button whose rectangles overlap ends up in the state of the one the pointer is in.
-    const size_t count = m_registrations.size();
-    // Every registration of one root shares the mapped point; there is one root in practice.
-    const QWidget* mappedRoot = nullptr;
-    std::optional<QPoint> at;
-    for (int pass = 0; pass < 2; ++pass) {
-        const bool entering = pass == 1;
-        for (size_t i = 0; i < count; ++i) {
-            Registration& r = m_registrations[i];
-            if (!r.root) continue;
-            if (r.root != mappedRoot) {
-                mappedRoot = r.root;
-                at = InRoot(r.root, window, pos);
+    // Callbacks may add registrations (and so move the groups in memory): every state is settled
+    // and the owners to call copied out first, so a move fires only the registrations that existed
+    // when it happened. Exits go before enters, so a button whose rectangles overlap ends up in
+    // the state of the one the pointer is in.
+    std::vector<std::pair<Holder, bool>> calls; // (holder, entering)
+    for (Root& root : m_roots) {
+        if (!root.widget) continue;
+        const std::optional<QPoint> at = InRoot(root.widget, window, pos);
+        if (!at) continue;
+        std::vector<int> exits, enters;
+        for (int g : root.inside)
+            if (!present || !root.groups[static_cast<size_t>(g)].rect.contains(*at)) exits.push_back(g);
+        if (present) {
+            const auto cell = static_cast<size_t>(Clamped(at->y(), root.rows) * root.columns +
+                                                  Clamped(at->x(), root.columns));
+            for (int g : root.cells[cell]) {
+                const Group& group = root.groups[static_cast<size_t>(g)];
+                if (!group.inside && group.rect.contains(*at)) enters.push_back(g);
             }
-            if (!at) continue;
-            const bool inside = present && r.rect.contains(*at);
-            if (inside == r.inside || inside != entering) continue;
-            r.inside = inside;
+        }
+        std::sort(exits.begin(), exits.end());
+        std::sort(enters.begin(), enters.end());
+        for (const bool entering : {false, true}) {
+            for (int g : entering ? enters : exits) {
+                Group& group = root.groups[static_cast<size_t>(g)];
+                group.inside = entering;
+                if (entering)
+                    root.inside.push_back(g);
+                else
+                    Erase(root.inside, g);
+                for (const Holder& holder : group.holders) calls.emplace_back(holder, entering);
+            }
+        }
+        // A group that now shares its state with another of the same rectangle joins it.
+        for (const std::vector<int>* moved : {&exits, &enters}) {
+            for (int g : *moved) {
+                Group group = std::move(root.groups[static_cast<size_t>(g)]);
+                root.groups[static_cast<size_t>(g)] = {};
+                for (int y = Clamped(group.rect.top(), root.rows);
+                     y <= Clamped(group.rect.bottom(), root.rows); ++y)
+                    for (int x = Clamped(group.rect.left(), root.columns);
+                         x <= Clamped(group.rect.right(), root.columns); ++x)
+                        Erase(root.cells[static_cast<size_t>(y * root.columns + x)], g);
+                Erase(root.inside, g);
+                root.freeGroups.push_back(g);
+                for (const Holder& holder : group.holders) addToGroup(root, group.rect, group.inside, holder);
+            }
+        }
+    }
+    for (const auto& [holder, entering] : calls) {
+        for (int i = 0; i < holder.count; ++i) {
             // A button that is not on view keeps its looks until it is shown again.
-            if (!r.ownerView || !r.ownerView->isVisible()) continue;
-            const auto crossing = inside ? &HoverOwner::mouseEntered : &HoverOwner::mouseExited;
-            (r.owner->*crossing)();
+            if (!holder.ownerView || !holder.ownerView->isVisible()) break;
+            const auto crossing = entering ? &HoverOwner::mouseEntered : &HoverOwner::mouseExited;
+            (holder.owner->*crossing)();
         }
     }
 }

@@ -5,7 +5,6 @@
 #include <QRect>
 #include <QWindow>
 
-#include <optional>
 #include <vector>
 
 class HoverOwner;
@@ -17,6 +16,12 @@ class QWidget;
 // watches the pointer on the window itself, so it sees every move whatever widget lies under it.
 // "Window coordinates" are those of the top-level widget the view belongs to: where that widget
 // is shown scaled, inside a graphics view, the pointer is mapped back into it.
+//
+// Registrations pile up over a session (every visit to a screen adds its buttons again), but a
+// pointer move must cost what it does in a fresh window. So registrations of one rectangle that
+// are in the same state (pointer inside or not) are kept together, counted per owner, and a move
+// looks only at the registrations under the pointer, found through a coarse grid, and at those
+// the pointer was inside.
 class TrackingRegistry : public QObject {
     Q_OBJECT
 public:
@@ -33,18 +38,35 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Registration {
-        QPointer<QWidget> root; // the top-level widget the rectangle is fixed in
-        QRect rect;             // root coordinates
+    struct Holder {
         HoverOwner* owner;
         QPointer<QWidget> ownerView; // the owner's view: gone with it, and hidden with it
+        int count;                   // registrations of this owner here, each firing once
+    };
+    // Every registration of one rectangle in one state, its owners in the order they registered.
+    struct Group {
+        QRect rect; // root coordinates
         bool inside = false;
+        std::vector<Holder> holders; // none: a free slot
+    };
+    // The registrations fixed in one top-level widget.
+    struct Root {
+        const QWidget* key = nullptr;
+        QPointer<QWidget> widget;
+        std::vector<Group> groups;
+        std::vector<int> freeGroups;
+        std::vector<std::vector<int>> cells; // the groups whose rectangle touches each cell
+        int columns = 0;
+        int rows = 0;
+        std::vector<int> inside; // the groups the pointer is inside
     };
 
     // Watches the window root is shown in now, and root itself, to follow it into another window.
     void watch(QWidget* root);
     void pointerMoved(QWindow* window, bool present, QPointF pos);
+    Root& rootOf(QWidget* widget);
+    void addToGroup(Root& root, const QRect& rect, bool inside, const Holder& holder);
 
-    std::vector<Registration> m_registrations;
+    std::vector<Root> m_roots;
     std::vector<QPointer<QObject>> m_watched;
 };
