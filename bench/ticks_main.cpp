@@ -250,13 +250,13 @@ std::vector<Result> TimelineScroll(int samples) {
     // A page request as the page buttons make it, its timer stopped: the ticks are ours to call.
     auto request = [&](qint32 page) {
         sound->Timeline.SoundContentMoveToPage(page);
-        if (timeline.timer) timeline.timer->stop();
-        return timeline.timer != nullptr;
+        if (timeline.timer()) timeline.timer()->stop();
+        return timeline.timer() != nullptr;
     };
     auto scrollTo = [&](qint32 page, const std::function<void(bool)>& tick) {
-        const bool later = page > timeline.iPageNumber;
+        const bool later = page > timeline.iPageNumber();
         if (!request(page)) return;
-        while (timeline.timer) tick(later);
+        while (timeline.timer()) tick(later);
         Flush();
     };
     // Start from the end of a long timeline, where the user is after adding 512 items.
@@ -305,7 +305,7 @@ std::vector<Result> TimelineScroll(int samples) {
         paintCount += paints.count() - before;
         ++ticks;
         result.floor.push_back(Measure([&] { BenchTimelineFloorTick(&floor); }));
-        if (!timeline.timer) {
+        if (!timeline.timer()) {
             arriving.measured.push_back(measured.back());
             arriving.floor.push_back(result.floor.back());
         }
@@ -504,10 +504,10 @@ std::vector<Result> ScaledWindowTicks(int samples, bool wantRobot, bool wantTime
     auto scroll = [&](qint32 page, bool measure) {
         for (Frame_Sound* sound : sounds) {
             sound->Timeline.SoundContentMoveToPage(page);
-            if (sound->Timeline.timer) sound->Timeline.timer->stop();
+            if (sound->Timeline.timer()) sound->Timeline.timer()->stop();
         }
-        const bool later = page > sounds[0]->Timeline.iPageNumber;
-        while (sounds[0]->Timeline.timer) {
+        const bool later = page > sounds[0]->Timeline.iPageNumber();
+        while (sounds[0]->Timeline.timer()) {
             if (!measure) {
                 for (Frame_Sound* sound : sounds) TimelineTick(sound, later);
                 Flush();

@@ -60,7 +60,7 @@ NSViewS* Frame_Control::ScreenOf(ScreenId id) const {
     // Each screen builds all its children before it is in the window, so hover registrations made
     // while building never fire; every screen but the first starts hidden.
     NSViewS* screen = MakeScreen(id, MakeNSRect(0, 0, 1024, 768));
-    screen->setHidden(id != ScreenId::MainMenu);
+    if (id != ScreenId::MainMenu) screen->setHidden(true);
     frmFrameRec[index] = screen;
     auto* self = const_cast<Frame_Control*>(this);
     self->addSubview(screen);

@@ -17,6 +17,9 @@ struct SoundContentLoc {
 inline constexpr qint32 kSoundContentItemMax = 512;
 inline constexpr qint32 kSoundContentPageSize = 12;
 inline constexpr qint32 kSoundContentPagePitch = 217;
+// The timeline view's height: 7 points more than a page, so the next page's first link bar shows
+// below a full page.
+inline constexpr qint32 kSoundContentViewHeight = 224;
 // How far one scroll tick moves every item.
 inline constexpr qint32 kSoundContentScrollStep = 20;
 

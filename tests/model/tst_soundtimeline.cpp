@@ -10,6 +10,28 @@ void Fill(SoundTimeline& t, qint32 items) {
     for (qint32 i = 0; i < items; ++i) t.SetSoundContent(i % 36);
 }
 
+// One scroll to `page`, its ticks called here rather than by the timer.
+void ScrollTo(SoundTimeline& t, qint32 page) {
+    const bool later = page > t.iPageNumber();
+    t.SoundContentMoveToPage(page);
+    if (t.timer()) t.timer()->stop();
+    for (int guard = 0; t.Busy() && guard < 1000; ++guard)
+        later ? t.SoundContentItemDown() : t.SoundContentItemUP();
+}
+
+SoundContentLoc Scrolled(SoundContentLoc loc, qint32 dy) {
+    for (auto rect : {&SoundContentLoc::SizeLoc, &SoundContentLoc::NumberText, &SoundContentLoc::LinkBar})
+        loc.*rect = SoundContentScrolled(loc.*rect, dy);
+    return loc;
+}
+
+bool OnView(const SoundContentLoc& loc) {
+    bool on = false;
+    for (const NSRect& r : {loc.SizeLoc, loc.NumberText, loc.LinkBar})
+        on = on || (r.y < kSoundContentViewHeight && r.y + r.height > 0);
+    return on;
+}
+
 } // namespace
 
 // The timeline's numbers, and the twelve sound buttons that feed it.
@@ -70,13 +92,13 @@ private slots:
         QFETCH(qint32, ticks);
         SoundTimeline t;
         Fill(t, items);
-        t.iPageNumber = from;
+        ScrollTo(t, from);
         QSignalSpy steps(&t, &SoundTimeline::ItemsScrolled);
         QSignalSpy arrived(&t, &SoundTimeline::ScrollArrived);
         t.SoundContentMoveToPage(to);
-        QCOMPARE(t.iPageNumber, ticks ? to : from);
-        if (t.timer) QCOMPARE(t.timer->interval(), 10); // ticks of a hundredth of a second
-        if (t.timer) t.timer->stop();
+        QCOMPARE(t.iPageNumber(), ticks ? to : from);
+        if (t.timer()) QCOMPARE(t.timer()->interval(), 10); // ticks of a hundredth of a second
+        if (t.timer()) t.timer()->stop();
         for (int guard = 0; t.Busy() && guard < 1000; ++guard)
             to > from ? t.SoundContentItemDown() : t.SoundContentItemUP();
         const QVariant step = to > from ? -kSoundContentScrollStep : kSoundContentScrollStep;
@@ -144,15 +166,57 @@ private slots:
         QList<QList<QVariant>> told;
         for (qint32 sound : appended) told.append({items + qint32(told.size()), sound});
         QCOMPARE(made, told);
-        QCOMPARE(t.iItemNum, items + appended.size());
-        QCOMPARE(t.iPageNumber, pageAfter);
+        QCOMPARE(t.iItemNum(), items + appended.size());
+        QCOMPARE(t.iPageNumber(), pageAfter);
     }
 
     // Only the table's 36 sounds are taken.
     void unknownSound() {
         SoundTimeline t;
         for (const qint32 sound : {-1, 36, 35}) t.SetSoundContent(sound);
-        QCOMPARE(t.iItemNum, 1);
+        QCOMPARE(t.iItemNum(), 1);
+    }
+
+    // Each tick moves every item 20 points and the arriving one puts every item in its place;
+    // the items said to be on view are exactly those with a view reaching into the timeline's
+    // 224 points, at most two pages and the next page's first link bar.
+    void itemsOnView_data() {
+        QTest::addColumn<qint32>("items");
+        QTest::addColumn<qint32>("from");
+        QTest::addColumn<qint32>("to");
+        QTest::newRow("one page on") << 36 << 0 << 1;
+        QTest::newRow("one page back") << 36 << 1 << 0;
+        QTest::newRow("three pages on") << 512 << 0 << 3;
+        QTest::newRow("to the last, partly filled page") << 512 << 41 << 42;
+        QTest::newRow("a single page") << 5 << 0 << 1;
+        QTest::newRow("no items") << 0 << 0 << 1;
+    }
+    void itemsOnView() {
+        QFETCH(qint32, items);
+        QFETCH(qint32, from);
+        QFETCH(qint32, to);
+        SoundTimeline t;
+        Fill(t, items);
+        ScrollTo(t, from);
+        QList<SoundContentLoc> was;
+        for (qint32 n = 0; n < items; ++n) was << t.GetSoundContentLoc(n);
+        t.SoundContentMoveToPage(to);
+        if (t.timer()) t.timer()->stop();
+        for (int tick = 0; tick < 100; ++tick) {
+            const auto [first, end] = t.ItemsOnView();
+            QVERIFY(end - first <= 2 * kSoundContentPageSize + 1);
+            for (qint32 n = 0; n < items; ++n) {
+                QCOMPARE(t.ItemLocNow(n), was[n]);
+                QCOMPARE(n >= first && n < end, OnView(was[n]));
+            }
+            if (!t.Busy()) break;
+            to > from ? t.SoundContentItemDown() : t.SoundContentItemUP();
+            for (qint32 n = 0; n < items; ++n)
+                was[n] = t.Busy() ? Scrolled(was[n],
+                                             to > from ? -kSoundContentScrollStep : kSoundContentScrollStep)
+                                  : t.GetSoundContentLoc(n);
+        }
+        QVERIFY(!t.Busy());
     }
 };
 

@@ -39,6 +39,11 @@ QStringList AppInvariants(const Frame_Control* root) {
     const auto children = [](const QWidget* view) {
         return view->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size();
     };
+    // A timeline view shows at its place while that lies on view, and is hidden otherwise.
+    const auto Placed = [](const NSViewS* view, const NSRect& place) {
+        const bool onView = place.y < kSoundContentViewHeight && place.y + place.height > 0;
+        return onView ? !view->isHidden() && view->frame() == place : view->isHidden();
+    };
 
     // In the order of ScreenId.
     const QWidget* screens[] = {root->frmMainMenu(), root->frmScenario(), root->frmAlarm(),
@@ -49,27 +54,27 @@ QStringList AppInvariants(const Frame_Control* root) {
     expect(onView == 1 && shown(screens[expected]),
            QStringLiteral("%1 screens shown, the navigator's is %2").arg(onView).arg(expected));
 
-    // At rest every timeline item also stands where the layout puts it for the page on view.
+    // At rest every timeline view on view stands where the layout puts it for the page shown, and
+    // every one off view is hidden.
     const SOUNDSETCONTENT& c = root->frmSound()->SoundContent;
     const SoundTimeline& t = root->frmSound()->Timeline;
-    bool inStep = t.iItemNum >= 0 && t.iItemNum <= kSoundContentItemMax &&
-                  children(c.frmSoundContent) == 3 * t.iItemNum;
+    bool inStep = t.iItemNum() >= 0 && t.iItemNum() <= kSoundContentItemMax &&
+                  children(c.frmSoundContent) == 3 * t.iItemNum();
     for (qint32 i = 0; i < kSoundContentItemMax && inStep; ++i) {
-        const bool used = i < t.iItemNum;
+        const bool used = i < t.iItemNum();
         inStep = (c.Item.BtnButton[i] != nullptr) == used && (c.Item.strNumber[i] != nullptr) == used &&
                  (c.Item.imgLinkBar[i] != nullptr) == used &&
                  (!used || c.Item.strNumber[i]->captionText() == QString::number(i + 1));
     }
     qint32 wrong = -1;
-    if (expect(inStep, QStringLiteral("timeline views out of step with %1 items").arg(t.iItemNum)))
-        for (qint32 i = 0; i < t.iItemNum && !t.Busy() && wrong < 0; ++i)
+    if (expect(inStep, QStringLiteral("timeline views out of step with %1 items").arg(t.iItemNum())))
+        for (qint32 i = 0; i < t.iItemNum() && !t.Busy() && wrong < 0; ++i)
             if (const SoundContentLoc loc = t.GetSoundContentLoc(i);
-                c.Item.BtnButton[i]->frame() != loc.SizeLoc ||
-                c.Item.strNumber[i]->frame() != loc.NumberText ||
-                c.Item.imgLinkBar[i]->frame() != loc.LinkBar)
+                !Placed(c.Item.BtnButton[i], loc.SizeLoc) || !Placed(c.Item.strNumber[i], loc.NumberText) ||
+                !Placed(c.Item.imgLinkBar[i], loc.LinkBar))
                 wrong = i;
     expect(wrong < 0,
-           QStringLiteral("timeline item %1 out of place on page %2").arg(wrong).arg(t.iPageNumber));
+           QStringLiteral("timeline item %1 out of place on page %2").arg(wrong).arg(t.iPageNumber()));
 
     using Page = AlarmFlow::Page;
     using Editor = AlarmFlow::Editor;
@@ -122,7 +127,7 @@ QStringList AppInvariants(const Frame_Control* root) {
     expect(!(slide.timer && slide.timer->isActive() == slide.hasArrived()) &&
                shown(root->frmMainMenu()->BtnProgram) == slide.hasArrived(),
            QStringLiteral("the robot's timer or the menu's buttons out of step with the robot"));
-    expect(!t.timer || t.timer->isActive(), QStringLiteral("a scroll timer is kept but stopped"));
+    expect(!t.timer() || t.timer()->isActive(), QStringLiteral("a scroll timer is kept but stopped"));
 
     // Typing goes to the focused widget: one that is not on view would take keys the user cannot
     // see land, and a later Create or Set would write them.

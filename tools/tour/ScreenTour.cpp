@@ -103,7 +103,7 @@ bool ScreenTour::editors() {
     Frame_Control* root = m_app.root();
     Frame_Sound* sound = root->frmSound();
     const auto settled = [sound] {
-        return QTest::qWaitFor([sound] { return !sound->Timeline.timer; }, 10000);
+        return QTest::qWaitFor([sound] { return !sound->Timeline.Busy(); }, 10000);
     };
 
     m_app.click(root->frmMovement()->BtnSound);

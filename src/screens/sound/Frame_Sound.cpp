@@ -130,6 +130,7 @@ void Frame_Sound::InitSoundContent() {
     addSubview(SoundContent.frmSoundContent);
     KeyboardNavigation::ReadsInItemOrder(SoundContent.frmSoundContent);
     connect(&Timeline, &SoundTimeline::ItemAppended, this, &Frame_Sound::SoundContentItemMade);
-    connect(&Timeline, &SoundTimeline::ItemsScrolled, this, &Frame_Sound::SoundContentItemsScrolled);
-    connect(&Timeline, &SoundTimeline::ScrollArrived, this, &Frame_Sound::SoundContentPlaceItems);
+    // The views of the items on view follow the timeline's ticks and its arrival snap alike.
+    connect(&Timeline, &SoundTimeline::ItemsScrolled, this, &Frame_Sound::SoundContentShowItems);
+    connect(&Timeline, &SoundTimeline::ScrollArrived, this, &Frame_Sound::SoundContentShowItems);
 }

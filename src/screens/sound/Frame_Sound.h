@@ -55,8 +55,11 @@ public:
 
 private:
     void SoundContentItemMade(qint32 n, qint32 sound);
-    void SoundContentItemsScrolled(qint32 dy);
-    void SoundContentPlaceItems();
+    // Puts the views of the items on view where the timeline says they stand, and hides the rest.
+    void SoundContentShowItems();
+
+    // The items whose views are shown, [first, end).
+    std::pair<qint32, qint32> m_itemsShown{0, 0};
 };
 
 void Frame_Sound_MoveMentBtnAcion(void* context, Button* button);

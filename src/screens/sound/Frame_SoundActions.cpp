@@ -13,13 +13,16 @@ namespace {
 
 const char* const kLinkBarPictures[2] = {"smallbarH", "smallbarV"};
 
-// Moves a view by one scroll step, keeping its frame on whole points.
-void ScrollView(NSViewS* view, qint32 dy) {
-    if (view) view->setFrame(SoundContentScrolled(view->frame(), dy));
+// Whether a view at `frame` shows in the timeline view, which cuts what lies past its edges.
+bool OnView(const NSRect& frame) {
+    return frame.y < kSoundContentViewHeight && frame.y + frame.height > 0;
 }
 
+// Puts a view at `frame`, shown while it is on view and hidden otherwise.
 void PlaceView(NSViewS* view, const NSRect& frame) {
-    if (view) view->setFrame(frame);
+    if (!view) return;
+    if (view->frame() != frame) view->setFrame(frame);
+    if (view->isHidden() == OnView(frame)) view->setHidden(!OnView(frame));
 }
 
 } // namespace
@@ -40,7 +43,7 @@ void Frame_Sound::ShowSoundSet() {
 void Frame_Sound::SoundContentItemMade(qint32 n, qint32 sound) {
     SOUNDSETCONTENT& c = SoundContent;
     if (!c.frmSoundContent) return;
-    const SoundContentLoc loc = Timeline.GetSoundContentLoc(n);
+    const SoundContentLoc loc = Timeline.ItemLocNow(n);
 
     Button* item = Layout::MakeButton(
         c.frmSoundContent,
@@ -48,7 +51,10 @@ void Frame_Sound::SoundContentItemMade(qint32 n, qint32 sound) {
          .up = SoundPictures::kMark,
          .move = "but_over_Btn01",
          .down = "but_over_Btn01",
-         .caption = {SoundSetName(sound), NSColor::grayColor(), MakeNSRect(17, 11, 50, 16), 14}});
+         .caption = {SoundSetName(sound), NSColor::grayColor(), MakeNSRect(17, 11, 50, 16), 14},
+         .hidden = !OnView(loc.SizeLoc)});
+    // Read out as the timeline shows it: its number, then its sound.
+    item->setAccessibleName(QStringLiteral("%1: %2").arg(n + 1).arg(QLatin1String(SoundSetName(sound))));
     item->InitButtonAction(Frame_Sound_SoundContentBtnAction, this);
     // Made once, where the item stands now: an item laid out of view gets an empty registration.
     RegisterHover({item});
@@ -58,10 +64,13 @@ void Frame_Sound::SoundContentItemMade(qint32 n, qint32 sound) {
     c.Item.strNumber[n] = Layout::MakeView(
         c.frmSoundContent,
         {.frame = loc.NumberText,
-         .caption = {number.constData(), NSColor::orangeColor(), MakeNSRect(0, 0, 24, 14), 12}});
+         .caption = {number.constData(), NSColor::orangeColor(), MakeNSRect(0, 0, 24, 14), 12},
+         .hidden = !OnView(loc.NumberText)});
     c.Item.imgLinkBar[n] = Layout::MakeView(
-        c.frmSoundContent,
-        {.frame = loc.LinkBar, .up = kLinkBarPictures[loc.LinkBarType == kLinkBarVertical ? 1 : 0]});
+        c.frmSoundContent, {.frame = loc.LinkBar,
+                            .up = kLinkBarPictures[loc.LinkBarType == kLinkBarVertical ? 1 : 0],
+                            .hidden = !OnView(loc.LinkBar)});
+    m_itemsShown = Timeline.ItemsOnView();
 
     // The timeline's arrows appear with its first item.
     Button* up = BtnButton[kBtnContentUp];
@@ -73,27 +82,27 @@ void Frame_Sound::SoundContentItemMade(qint32 n, qint32 sound) {
     }
 }
 
-void Frame_Sound::SoundContentItemsScrolled(qint32 dy) {
+void Frame_Sound::SoundContentShowItems() {
     SOUNDSETCONTENTITEM& items = SoundContent.Item;
-    // Qt folds the moves of one tick into a single repaint of the timeline at the next pass of
-    // the event loop. Holding updates off meanwhile (setUpdatesEnabled) costs more than it saves:
-    // turning them back on asks every one of up to 1536 children for its own update.
-    for (qint32 i = 0; i < kSoundContentItemMax && items.BtnButton[i]; ++i) {
-        ScrollView(items.BtnButton[i], dy);
-        ScrollView(items.strNumber[i], dy);
-        ScrollView(items.imgLinkBar[i], dy);
+    // Only the items that can be on view are moved; the others are hidden, so that neither the
+    // scroll nor assistive technology pays for them. Qt folds the moves of one tick into a
+    // single repaint of the timeline at the next pass of the event loop.
+    const std::pair<qint32, qint32> shown = Timeline.ItemsOnView();
+    for (qint32 i = m_itemsShown.first; i < m_itemsShown.second; ++i) {
+        if (i >= shown.first && i < shown.second) continue;
+        for (NSViewS* view :
+             {static_cast<NSViewS*>(items.BtnButton[i]), static_cast<NSViewS*>(items.strNumber[i]),
+              static_cast<NSViewS*>(items.imgLinkBar[i])})
+            if (view) view->setHidden(true);
     }
-    if (SoundContent.frmSoundContent) SoundContent.frmSoundContent->update();
-}
-
-void Frame_Sound::SoundContentPlaceItems() {
-    SOUNDSETCONTENTITEM& items = SoundContent.Item;
-    for (qint32 i = 0; i < kSoundContentItemMax && items.BtnButton[i]; ++i) {
-        const SoundContentLoc loc = Timeline.GetSoundContentLoc(i);
+    for (qint32 i = shown.first; i < shown.second; ++i) {
+        const SoundContentLoc loc = Timeline.ItemLocNow(i);
         PlaceView(items.BtnButton[i], loc.SizeLoc);
         PlaceView(items.strNumber[i], loc.NumberText);
         PlaceView(items.imgLinkBar[i], loc.LinkBar);
     }
+    m_itemsShown = shown;
+    if (SoundContent.frmSoundContent) SoundContent.frmSoundContent->update();
 }
 
 // Callbacks: the context is always the screen.
