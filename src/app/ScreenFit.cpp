@@ -57,6 +57,8 @@ void ScreenFit::fit() {
         m_window->hide();
         m_scaled = std::make_unique<ScaledWindow>(m_window);
     }
+    // Maximized, it is the window manager's to fit to the screen's free area.
+    if (m_scaled->isMaximized()) return;
     const QSize size(qRound(scene.width() * factor), qRound(scene.height() * factor));
     m_scaled->resize(size);
     // A top-level window's position is that of its frame: centred in the area, frame and all.
@@ -64,7 +66,10 @@ void ScreenFit::fit() {
     m_scaled->move(area.x() + (area.width() - framed.width()) / 2,
                    area.y() + (area.height() - framed.height()) / 2);
     if (m_scaled->isHidden()) {
-        m_scaled->show();
+        // Maximized where a window manager keeps the free area: on Wayland only the compositor knows
+        // where its panels are (Qt reports the whole output as free). Where nothing manages windows,
+        // the size and place set here stand.
+        m_scaled->showMaximized();
         follow();
     }
 }

@@ -8,7 +8,8 @@ class ScaledWindow;
 class QWidget;
 
 // Shows the loaded window whole on its screen: as it is where it fits with its frame, else scaled
-// down uniformly in a ScaledWindow that fits. The window manager's frame is known only once it
+// down uniformly in a ScaledWindow that fits, maximized for a window manager to fit it to the free
+// area it keeps (panels and all). The window manager's frame is known only once it
 // has framed the window, so the fit is checked again after each window's first expose, and
 // whenever the window moves to another screen.
 class ScreenFit : public QObject {
