@@ -49,6 +49,11 @@ public:
     Page page() const { return m_page; }
     Editor editor() const { return m_editor; }
     Back backTarget() const { return m_page == Page::Choose ? Back::MainMenu : Back::Choose; }
+    // An alarm page shows its values (the birthday's date and time; the wake-up time and the
+    // frequencies) only while that alarm is on.
+    bool valuesShown() const {
+        return (m_page == Page::Birthday && m_enableBirthday) || (m_page == Page::Wakeup && m_enableWakeup);
+    }
     // Whose texts the confirmation page shows: those of the last one confirmed.
     Alarm confirmation() const { return m_confirmation; }
 

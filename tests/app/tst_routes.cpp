@@ -94,6 +94,24 @@ private slots:
         back("alarm choose page", {"Alarm/Clock"}, "main menu", true);
         back("alarm birthday page", toBirthday, "alarm: choose", true);
         back("alarm wake up page", {"Alarm/Clock", "Wake up alarm:Off"}, "alarm: choose", true);
+        // What a screen shows when it is come back to, and what a state leaves on view.
+        QTest::newRow("scenario, back and again: the views closed, the name kept")
+            << QStringList{"Program scenario", "Modify exist scenario", "3",       "Back", "Program scenario",
+                           "misses Go",        "Modify exist scenario", "chosen 3"}
+            << "scenario" << true;
+        QTest::newRow("scenario, the last name deleted: nothing to modify")
+            << QStringList{"Program scenario", "Modify exist scenario"} + QStringList(20, "Delete scenario") +
+                   QStringList{"misses Modify exist scenario", "misses Go"}
+            << "scenario" << true;
+        QTest::newRow("laser, back and again: the configuration kept")
+            << toLaser +
+                   QStringList{"Robot configuration 2", "Back", "Laser tab", "chosen Robot configuration 2"}
+            << "laser" << true;
+        QTest::newRow("alarm, a wake-up alarm off hides its values; back and again: the choose page")
+            << QStringList{"Alarm/Clock", "Wake up alarm:Off",  "misses *Once",          "Wake up alarm, On",
+                           "sees *Once",  "Wake up alarm, Off", "misses *Once",          "Back",
+                           "Back",        "Alarm/Clock",        "sees Wake up alarm:Off"}
+            << "alarm: choose" << true;
         // The keyboard alone: a new screen's first control has the focus, the scenario's first is
         // "Create a new scenario", which opens the name field with the focus in it.
         const QStringList keysToScenario{"tab to Program scenario", "key Space",
@@ -166,6 +184,17 @@ private slots:
             // The focus may follow once the change that moved it is over.
             if (step.startsWith(QLatin1String("focus "))) {
                 QTRY_COMPARE(QApplication::focusWidget(), OnView(app.root(), rest));
+                continue;
+            }
+            if (step.startsWith(QLatin1String("sees ")) || step.startsWith(QLatin1String("misses "))) {
+                QVERIFY2((OnView(app.root(), rest) != nullptr) == step.startsWith(u's'), qPrintable(step));
+                continue;
+            }
+            if (step.startsWith(QLatin1String("chosen "))) {
+                QWidget* chosen = OnView(app.root(), rest);
+                QVERIFY2(chosen, qPrintable(step));
+                const QAccessible::State state = QAccessible::queryAccessibleInterface(chosen)->state();
+                QVERIFY2(state.selected || state.checked, qPrintable(step));
                 continue;
             }
             if (step.startsWith(QLatin1String("tab to "))) {

@@ -27,23 +27,35 @@ void Do(AlarmFlow& f, const QString& a) {
     f.OpenEditor(F::Editor(editors.indexOf(a)));
 }
 
-// The whole state in one line: page[/editor], Back's target, the page flag, which alarms are
-// on (birthday, wake-up), the frequency, which On/Off pairs were pressed, and a running timer
-// with its interval, once.
+// The whole state in one line, each field after its label:
+//   page[/open editor][(whose confirmation)]  the page on view
+//   back:main|choose                          where Back leads
+//   last:-|bday|wake                          the alarm page opened last
+//   on:-|bday|wake|both                       the alarms switched on
+//   freq:once|daily|fri-mon                   the wake-up frequency
+//   pressed:-|bday|wake|both                  the On/Off pairs ever pressed
+//   values                                    the page shows its alarm's values (absent: hidden)
+//   timer N ms once                           a running one-shot timer
 QString Describe(const AlarmFlow& f) {
     static const char* const pages[] = {"choose", "bday", "wake", "confirm"};
     static const char* const editors[] = {"", "/date", "/time", "/wake"};
-    QString page = QString::fromLatin1(pages[int(f.page())]);
+    static const char* const lasts[] = {"-", "bday", "wake"};
+    static const char* const frequencies[] = {"once", "daily", "fri-mon"};
+    const auto pair = [](bool bday, bool wake) {
+        return bday && wake ? "both" : bday ? "bday" : wake ? "wake" : "-";
+    };
+    QString page = QString::fromLatin1(pages[int(f.page())]) + QString::fromLatin1(editors[int(f.editor())]);
     if (f.page() == AlarmFlow::Page::Confirmation)
         page += f.confirmation() == AlarmFlow::Alarm::Wakeup ? "(wake)" : "(bday)";
     const QTimer* t = f.timer();
     const QString timer =
         t->isActive() ? QString::asprintf(" timer %d ms%s", t->interval(), t->isSingleShot() ? " once" : "")
                       : QString();
-    return QString::asprintf("%s%s <%s f%d on%d%d q%d p%d%d%s", qPrintable(page), editors[int(f.editor())],
+    return QString::asprintf("%s back:%s last:%s on:%s freq:%s pressed:%s%s%s", qPrintable(page),
                              f.backTarget() == AlarmFlow::Back::MainMenu ? "main" : "choose",
-                             f.flagBirthdayWakeup(), f.enableBirthday(), f.enableWakeup(), f.typeFrequency(),
-                             f.birthdaySwitched(), f.wakeupSwitched(), qPrintable(timer));
+                             lasts[f.flagBirthdayWakeup()], pair(f.enableBirthday(), f.enableWakeup()),
+                             frequencies[f.typeFrequency()], pair(f.birthdaySwitched(), f.wakeupSwitched()),
+                             f.valuesShown() ? " values" : "", qPrintable(timer));
 }
 
 } // namespace
@@ -57,26 +69,46 @@ private slots:
         const auto row = [](const char* name, const QString& actions, const char* state) {
             QTest::newRow(name) << actions.split(' ', Qt::SkipEmptyParts) << QString::fromLatin1(state);
         };
-        row("Back on the choose page is the screen's", "back", "choose <main f0 on00 q0 p00");
-        row("statuses only on the choose page", "bday wake", "bday <choose f1 on00 q0 p00");
-        row("one editor at a time", "bday bOn dateEd timeEd", "bday/time <choose f1 on10 q0 p10");
-        row("an open editor stays open", "bday bOn timeEd timeEd", "bday/time <choose f1 on10 q0 p10");
-        row("birthday off closes its editor", "bday bOn dateEd bOff", "bday <choose f1 on00 q0 p10");
-        row("wake-up off closes its editor", "wake wOn wakeEd wOff", "wake <choose f2 on00 q0 p01");
-        row("Set closes its editor", "wake wOn wakeEd setWake", "wake <choose f2 on01 q0 p01");
-        row("Set leaves another editor open", "bday bOn dateEd setTime", "bday/date <choose f1 on10 q0 p10");
-        row("frequency", "wake wOn q2", "wake <choose f2 on01 q2 p01");
-        row("no fourth frequency", "wake q2 q3", "wake <choose f2 on00 q2 p00");
+        row("Back on the choose page is the screen's", "back",
+            "choose back:main last:- on:- freq:once pressed:-");
+        row("statuses only on the choose page", "bday wake",
+            "bday back:choose last:bday on:- freq:once pressed:-");
+        row("one editor at a time", "bday bOn dateEd timeEd",
+            "bday/time back:choose last:bday on:bday freq:once pressed:bday values");
+        row("an open editor stays open", "bday bOn timeEd timeEd",
+            "bday/time back:choose last:bday on:bday freq:once pressed:bday values");
+        row("birthday off closes its editor", "bday bOn dateEd bOff",
+            "bday back:choose last:bday on:- freq:once pressed:bday");
+        row("wake-up off closes its editor", "wake wOn wakeEd wOff",
+            "wake back:choose last:wake on:- freq:once pressed:wake");
+        row("Set closes its editor", "wake wOn wakeEd setWake",
+            "wake back:choose last:wake on:wake freq:once pressed:wake values");
+        row("Set leaves another editor open", "bday bOn dateEd setTime",
+            "bday/date back:choose last:bday on:bday freq:once pressed:bday values");
+        row("birthday on shows its values", "bday bOn",
+            "bday back:choose last:bday on:bday freq:once pressed:bday values");
+        row("wake-up page, off: no values", "wake", "wake back:choose last:wake on:- freq:once pressed:-");
+        row("wake-up on shows its values", "wake wOn",
+            "wake back:choose last:wake on:wake freq:once pressed:wake values");
+        row("the other alarm on shows nothing here", "wake wOn back bday",
+            "bday back:choose last:bday on:wake freq:once pressed:wake");
+        row("frequency", "wake wOn q2",
+            "wake back:choose last:wake on:wake freq:fri-mon pressed:wake values");
+        row("no fourth frequency", "wake q2 q3", "wake back:choose last:wake on:- freq:fri-mon pressed:-");
         row("Back keeps the settings, closes the editor", "bday bOn dateEd back",
-            "choose <main f1 on10 q0 p10");
-        row("Done with the alarm off: no confirmation", "bday done", "choose <main f1 on00 q0 p00");
+            "choose back:main last:bday on:bday freq:once pressed:bday");
+        row("Done with the alarm off: no confirmation", "bday done",
+            "choose back:main last:bday on:- freq:once pressed:-");
         row("Done confirms the birthday", "bday bOn timeEd done",
-            "confirm(bday) <choose f1 on10 q0 p10 timer 5000 ms once");
+            "confirm(bday) back:choose last:bday on:bday freq:once pressed:bday timer 5000 ms once");
         row("Done confirms the wake-up alarm", "wake wOn done",
-            "confirm(wake) <choose f2 on01 q0 p01 timer 5000 ms once");
-        row("Done asks only the page's alarm", "bday bOn back wake done", "choose <main f2 on10 q0 p10");
-        row("Done only on an alarm page", "bday bOn back done", "choose <main f1 on10 q0 p10");
-        row("the confirmation ends on the choose page", "wake wOn done timer", "choose <main f2 on01 q0 p01");
+            "confirm(wake) back:choose last:wake on:wake freq:once pressed:wake timer 5000 ms once");
+        row("Done asks only the page's alarm", "bday bOn back wake done",
+            "choose back:main last:wake on:bday freq:once pressed:bday");
+        row("Done only on an alarm page", "bday bOn back done",
+            "choose back:main last:bday on:bday freq:once pressed:bday");
+        row("the confirmation ends on the choose page", "wake wOn done timer",
+            "choose back:main last:wake on:wake freq:once pressed:wake");
     }
     void flow() {
         QFETCH(QStringList, actions);

@@ -13,12 +13,6 @@ private slots:
         QTest::addColumn<ScreenId>("shown");
         QTest::addColumn<int>("accepted");
         using enum Route;
-        QTest::newRow("every route") << QList<Route>{MainMenuProgram, ScenarioGo,    MovementSound,
-                                                     SoundLazer,      LazerSound,    SoundMovement,
-                                                     MovementLazer,   LazerMovement, MovementBack,
-                                                     MainMenuAlarm,   AlarmBack,     MainMenuProgram,
-                                                     ScenarioBack}
-                                     << ScreenId::MainMenu << 13;
         QTest::newRow("a route from a screen not shown")
             << QList<Route>{MainMenuProgram, SoundLazer, MovementBack} << ScreenId::Scenario << 1;
         QTest::newRow("the same route twice")

@@ -127,6 +127,10 @@ const QHash<QString, std::function<void(Host&)>> kSteps = {
     {"inAgain", [](Host& h) { h.move(inA + QPoint(10, 5)); }},
     {"out", [](Host& h) { h.move(outside); }},
     {"register", [](Host& h) { RegisterHover({h.a}); }},
+    {"longSession", // the other button registered as often as a long session does
+     [](Host& h) {
+         for (int i = 0; i < 2000; ++i) RegisterHover({h.b});
+     }},
     {"disable", [](Host& h) { h.a->SetEnable(0); }},
     {"enable", [](Host& h) { h.a->SetEnable(1); }},
     {"hide", [](Host& h) { h.a->setHidden(true); }},
@@ -186,6 +190,8 @@ const struct {
      "entered entered entered exited exited exited", "up", 0},
     {"registered with the pointer inside: fires on the next move", "register in register inAgain out in",
      "entered entered exited exited entered entered", "move", 0},
+    {"after a long session each registration fires once", "longSession register register in out",
+     "entered entered exited exited", "up", 0},
     {"only the part on view is registered", "halfOff register inHalfOff pastPage", "entered exited", "up", 0},
     {"setting pictures again brings it to the front", "picturesAgain pressBoth releaseBoth", "action", "up",
      0},

@@ -75,9 +75,9 @@ void Frame_Alarm::Refresh() {
     const bool alarmPage = page == Page::Birthday || page == Page::Wakeup;
     frmChooseView->setHidden(page != Page::Choose);
     frmBirthdayControlView->setHidden(page != Page::Birthday);
-    frmBirthTimeDateButtonView->setHidden(page != Page::Birthday || !flow.enableBirthday());
+    frmBirthTimeDateButtonView->setHidden(page != Page::Birthday || !flow.valuesShown());
     frmWakeupControlView->setHidden(page != Page::Wakeup);
-    frmWakeupTimeFreqButtonView->setHidden(page != Page::Wakeup || !flow.enableWakeup());
+    frmWakeupTimeFreqButtonView->setHidden(page != Page::Wakeup || !flow.valuesShown());
     frmBirthDateEditView->setHidden(flow.editor() != Editor::BirthDate);
     frmBirthTimeEditView->setHidden(flow.editor() != Editor::BirthTime);
     frmWakeupTimeEditView->setHidden(flow.editor() != Editor::WakeupTime);

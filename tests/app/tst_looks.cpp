@@ -1,0 +1,136 @@
+// What only pixels show, one check each: a menu caption's colour once the pointer has left, a
+// picture that is not drawn 1:1, and the scaled window's bands as it is resized.
+
+#include "AppHarness.h"
+#include "Button.h"
+#include "Frame_Control.h"
+#include "Frame_MainMenu.h"
+#include "NSColor.h"
+#include "ScaledWindow.h"
+
+#include <QPainter>
+#include <QTest>
+
+namespace {
+
+QImage Grab(QWidget* widget, const QRect& rect) {
+    return widget->grab(rect).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// Pixels within a few steps of `colour`: a caption's ink, give or take its edges.
+int PixelsOf(const QImage& image, const QColor& colour) {
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            n += qAbs(c.red() - colour.red()) + qAbs(c.green() - colour.green()) +
+                     qAbs(c.blue() - colour.blue()) <
+                 40;
+        }
+    return n;
+}
+
+} // namespace
+
+class TestLooks : public QObject {
+    Q_OBJECT
+private slots:
+    // Pointed at, "Program scenario" whitens its caption; left, it is orange again and the button
+    // looks as it did before.
+    void menuCaptionAfterThePointerLeaves() {
+        AppHarness app;
+        QVERIFY(app.waitForMainMenuReady());
+        Button* program = app.root()->frmMainMenu()->BtnProgram;
+        const QRect place(app.at(program, QPoint(0, 0)), program->size());
+        app.moveTo(QPoint(400, 20));
+        const QImage before = Grab(app.window(), place);
+        app.moveTo(program);
+        const QImage pointed = Grab(app.window(), place);
+        app.moveTo(QPoint(400, 20));
+        const QImage after = Grab(app.window(), place);
+        QVERIFY(PixelsOf(pointed, NSColor::whiteColor()) > PixelsOf(before, NSColor::whiteColor()));
+        QVERIFY(PixelsOf(after, NSColor::orangeColor()) > 0);
+        QCOMPARE(after, before);
+    }
+
+    // A picture drawn at another size than its file's, or through a scaled painter as in the
+    // scaled window, is smoothed: the same pixels as drawing it smoothly by hand.
+    void picturesNotDrawnOneToOneAreSmoothed_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<qreal>("scale");
+        QTest::newRow("drawn larger") << QSize(58, 56) << 1.0;
+        QTest::newRow("drawn smaller") << QSize(20, 19) << 1.0;
+        QTest::newRow("window scaled") << QSize(29, 28) << 1.5;
+    }
+    void picturesNotDrawnOneToOneAreSmoothed() {
+        QFETCH(QSize, size);
+        QFETCH(qreal, scale);
+        NSImageViewS view(MakeNSRect(0, 0, size.width(), size.height()));
+        view.InitImage(QStringLiteral("but_question"), QStringLiteral("png"), size.width(), size.height(),
+                       nullptr);
+        const QPixmap& file = view.imgDefault.pixmap(1.0);
+        QCOMPARE(file.size(), QSize(29, 28));
+        const auto canvas = [&] {
+            QImage image((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            return image;
+        };
+        QImage drawn = canvas(), smooth = canvas();
+        {
+            QPainter painter(&drawn);
+            painter.scale(scale, scale);
+            view.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+        }
+        {
+            QPainter painter(&smooth);
+            painter.scale(scale, scale);
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            painter.drawPixmap(QRectF(QPointF(0, 0), QSizeF(size)), file, QRectF(file.rect()));
+        }
+        QCOMPARE(drawn, smooth);
+    }
+
+    // The content is scaled to fit and centred; bands of one colour fill the rest, on both sides
+    // of whichever way the window is too long, after every resize.
+    void scaledWindowBandsFollowResizes_data() {
+        QTest::addColumn<QSize>("window");
+        QTest::addColumn<QRect>("content");
+        QTest::newRow("taller") << QSize(1024, 968) << QRect(0, 100, 1024, 768);
+        QTest::newRow("wider") << QSize(1536, 768) << QRect(256, 0, 1024, 768);
+        QTest::newRow("half size, wider") << QSize(712, 384) << QRect(100, 0, 512, 384);
+        QTest::newRow("exact") << QSize(2048, 1536) << QRect(0, 0, 2048, 1536);
+    }
+    void scaledWindowBandsFollowResizes() {
+        QFETCH(QSize, window);
+        QFETCH(QRect, content);
+        QWidget page;
+        page.setFixedSize(1024, 768);
+        page.setAutoFillBackground(true);
+        page.setPalette(QPalette(Qt::red));
+        ScaledWindow scaled(&page);
+        scaled.resize(800, 800); // resized from something else
+        scaled.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&scaled));
+        scaled.resize(window);
+        QTRY_COMPARE(scaled.size(), window);
+        const QImage shot = scaled.grab().toImage();
+        const QColor red(Qt::red);
+        // Inside the content, two points in from its edges; outside, two points out of them.
+        for (const QPoint p : {content.topLeft() + QPoint(2, 2), content.bottomRight() - QPoint(2, 2)})
+            QCOMPARE(shot.pixelColor(p), red);
+        QList<QPoint> bands;
+        if (content.top() > 0)
+            bands << QPoint(content.center().x(), content.top() - 2)
+                  << QPoint(content.center().x(), content.bottom() + 2);
+        if (content.left() > 0)
+            bands << QPoint(content.left() - 2, content.center().y())
+                  << QPoint(content.right() + 2, content.center().y());
+        for (const QPoint p : bands) {
+            QVERIFY(shot.pixelColor(p) != red);
+            QCOMPARE(shot.pixelColor(p), shot.pixelColor(bands.first()));
+        }
+    }
+};
+
+QTEST_MAIN(TestLooks)
+#include "tst_looks.moc"
