@@ -63,7 +63,7 @@ Row HelpButton(Button** field, NSRect frame) {
 }
 
 Row Family(Button** field, NSRect frame, const char* base, const char* up, const char* move, const char* down,
-           const char* name, Caption caption) {
+           const char* name, Caption caption, ButtonCallback action) {
     // The names live as long as the application: a table builds once, and pictures are looked
     // up by name only while it builds.
     static QList<QByteArray> names;
@@ -77,7 +77,8 @@ Row Family(Button** field, NSRect frame, const char* base, const char* up, const
             .move = join(move),
             .down = join(down),
             .caption = caption,
-            .name = name};
+            .name = name,
+            .action = action};
 }
 
 void BuildTabs(NSViewS* parent, const TabStrip& strip, void* context) {
@@ -92,10 +93,11 @@ void BuildTabs(NSViewS* parent, const TabStrip& strip, void* context) {
                                              {"play", "Play"}};
     for (int i = 0; i < kTabCount; ++i) {
         const char* up = static_cast<int>(strip.current) == i ? "_over" : "";
-        Row row = Family(strip.fields[i], MakeNSRect(strip.x[i], strip.y, 64, 63), looks[i].picture, up,
-                         "_over", "_over", looks[i].name);
-        row.action = strip.actions[i];
-        *row.button = MakeButton(parent, row, context);
+        *strip.fields[i] =
+            MakeButton(parent,
+                       Family(strip.fields[i], MakeNSRect(strip.x[i], strip.y, 64, 63), looks[i].picture, up,
+                              "_over", "_over", looks[i].name, {}, strip.actions[i]),
+                       context);
     }
 }
 

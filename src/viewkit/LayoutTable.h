@@ -53,7 +53,7 @@ Row HelpButton(Button** field, NSRect frame);
 // A button of one picture family, "<base><up>", "<base><move>", "<base><down>": the arrows'
 // "ButtonArrowUp" + "_common" / "_focus", the tabs' "sound" + "" / "_over".
 Row Family(Button** field, NSRect frame, const char* base, const char* up, const char* move, const char* down,
-           const char* name = nullptr, Caption caption = {});
+           const char* name = nullptr, Caption caption = {}, ButtonCallback action = nullptr);
 
 // The editors' row of tabs, in this order; each tab is 64 by 63 points, all on one line.
 enum class Tab { Movement, Sound, Lazer, Face, Play };

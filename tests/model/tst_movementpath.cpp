@@ -1,94 +1,54 @@
 #include "PATHMAINSTRUCT.h"
-#include "PathTables.h"
 
 #include <QTest>
 
 namespace {
-
 constexpr float kPathHeight = 349.0f;
-
-PATHMAINSTRUCT StartedWith(qint32 image) {
-    PATHMAINSTRUCT path;
-    path.Item[0].iImgNO = image;
-    path.SetPathImageFirst(kPathHeight);
-    return path;
-}
-
-bool IsStopOrCircle(qint32 image) {
-    return image >= kPathLocCount;
-}
-
 } // namespace
 
-// The movement path: where every piece goes against the one before it, which way the path
-// leaves, and how many pieces it holds.
+// The movement path: where the newest piece stands for a few paths a user could build, and how
+// many pieces a path holds.
 class TestMovementPath : public QObject {
     Q_OBJECT
 private slots:
-    // The first piece stands in the bottom-left corner; a first stop or circle sends the path up.
-    // An unknown command draws image 0 first, what the empty slot holds, and adds nothing later;
-    // later, command 2 draws image 0.
-    void commands() {
-        for (qint32 command = -1; command <= 9; ++command) {
-            PATHMAINSTRUCT path;
-            const auto piece = path.SetPath(command, kPathHeight);
-            QVERIFY(piece);
-            if (command < 0 || command > 8) QCOMPARE(piece->iImgNO, 0);
-            QCOMPARE(piece->frame.x, 0.0f);
-            QCOMPARE(piece->frame.y + piece->frame.height, kPathHeight);
-            QCOMPARE(path.iDirect,
-                     IsStopOrCircle(piece->iImgNO) ? kPathDirectUp : iPathDirectOutTable[piece->iImgNO]);
-            QVERIFY(!path.SetPath(9, kPathHeight) && !path.SetPath(-1, kPathHeight));
-            QCOMPARE(path.SetPath(2, kPathHeight)->iImgNO, 0);
-            QCOMPARE(path.iItemCnt, 2);
-        }
+    // Lines are 66 x 73, the right turn 106 x 105, the stop 40 x 38, the left round turn 45 x 42.
+    void pieces_data() {
+        QTest::addColumn<QList<qint32>>("commands");
+        QTest::addColumn<QRectF>("newest");
+        QTest::addColumn<int>("pieces");
+        using L = QList<qint32>;
+        QTest::newRow("the first piece in the bottom-left corner") << L{0} << QRectF(0, 276, 66, 73) << 1;
+        QTest::newRow("a line up goes on up") << L{0, 0} << QRectF(0, 203, 66, 73) << 2;
+        QTest::newRow("a turn's entry meets the line's exit") << L{0, 4} << QRectF(15, 171, 106, 105) << 2;
+        QTest::newRow("after a right turn, on to the right") << L{0, 4, 0} << QRectF(121, 204, 66, 73) << 3;
+        QTest::newRow("a stop centred 6 points off the exit") << L{0, 8} << QRectF(15, 238, 40, 38) << 2;
+        QTest::newRow("after a stop, the top-left corner") << L{0, 8, 0} << QRectF(0, 0, 66, 73) << 3;
+        QTest::newRow("after a first stop, the top-left corner") << L{8, 0} << QRectF(0, 0, 66, 73) << 2;
+        QTest::newRow("command 2 first") << L{2} << QRectF(0, 307, 46, 42) << 1;
+        QTest::newRow("command 2 later draws another turn") << L{0, 2} << QRectF(6, 234, 45, 42) << 2;
+        QTest::newRow("an unknown command first draws what slot 0 holds")
+            << L{-1} << QRectF(0, 307, 45, 42) << 1;
+        QTest::newRow("an unknown command later adds nothing") << L{0, 9, -1} << QRectF(0, 276, 66, 73) << 1;
     }
-
-    // Every image after every image: against the side the newest piece leaves on, a line or
-    // turn with its entry level with the exit, a stop or circle centred 6 points off it; after
-    // a stop or circle, the top-left corner.
-    void placementAfterEveryPiece() {
-        for (qint32 prev = 0; prev < kPathImageCount; ++prev) {
-            for (qint32 next = 0; next < kPathImageCount; ++next) {
-                const QByteArray pair = QByteArray::number(prev) + " then " + QByteArray::number(next);
-                PATHMAINSTRUCT path = StartedWith(prev);
-                const NSRect p = path.Item[0].frame;
-                const auto piece = path.SetPathImageNormal(next);
-                QVERIFY2(piece, pair);
-                const NSRect n = piece->frame;
-                QCOMPARE(path.iDirect, iPathDirectOutTable[next]);
-                QCOMPARE(path.iItemCnt, 2);
-                const qint32 d = iPathDirectOutTable[prev];
-                if (d == kPathDirectNone) {
-                    QVERIFY2(n.x == 0.0f && n.y == 0.0f, pair);
-                    continue;
-                }
-                const bool vertical = d == kPathDirectDown || d == kPathDirectUp;
-                const float exit = vertical ? p.x + ptPathLocTable[prev][2] : p.y + ptPathLocTable[prev][3];
-                const float meets = IsStopOrCircle(next)
-                                        ? (vertical ? n.x + n.width / 2 - 6 : n.y + n.height / 2 - 6)
-                                    : vertical ? n.x + ptPathLocTable[next][0]
-                                               : n.y + ptPathLocTable[next][1];
-                QVERIFY2(meets == exit, pair);
-                const bool besides = d == kPathDirectDown    ? n.y == p.y + p.height
-                                     : d == kPathDirectUp    ? n.y + n.height == p.y
-                                     : d == kPathDirectRight ? n.x == p.x + p.width
-                                                             : n.x + n.width == p.x;
-                QVERIFY2(besides, pair);
-            }
-        }
+    void pieces() {
+        QFETCH(QList<qint32>, commands);
+        QFETCH(QRectF, newest);
+        QFETCH(int, pieces);
+        PATHMAINSTRUCT path;
+        for (const qint32 command : commands) path.SetPath(command, kPathHeight);
+        QCOMPARE(path.iItemCnt, pieces);
+        const NSRect f = path.Item[pieces - 1].frame;
+        QCOMPARE(QRectF(f.x, f.y, f.width, f.height), newest);
     }
 
     // A full path takes no piece, whichever way it comes.
     void holdsAtMost512Pieces() {
         PATHMAINSTRUCT path;
         for (qint32 i = 0; i < PathPlacement::kMaxPieces; ++i) QVERIFY(path.SetPath(i % 9, kPathHeight));
-        const qint32 direct = path.iDirect;
         for (qint32 c = 0; c < 9; ++c) QVERIFY(!path.SetPath(c, kPathHeight));
         QVERIFY(!path.SetPathImageNormal(8));
         QVERIFY(!path.SetPathImageFirst(kPathHeight));
         QCOMPARE(path.iItemCnt, PathPlacement::kMaxPieces);
-        QCOMPARE(path.iDirect, direct);
     }
 };
 

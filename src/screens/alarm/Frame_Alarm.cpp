@@ -31,24 +31,17 @@ Layout::Caption Orange(const char* text, int w, int h) {
 // Set, "Btn02" for the values and the frequencies; "Btn03" for the statuses, captioned by Refresh.
 Layout::Row Btn01(Button** field, int x, int y, const char* up, const char* text, ButtonCallback action,
                   const char* name = nullptr) {
-    Layout::Row row =
-        Layout::Family(field, MakeNSRect(x, y, 111, 46), "but_", up, "over_Btn01", "selected_Btn01", name,
-                       {text, NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16});
-    row.action = action;
-    return row;
+    return Layout::Family(field, MakeNSRect(x, y, 111, 46), "but_", up, "over_Btn01", "selected_Btn01", name,
+                          {text, NSColor::whiteColor(), MakeNSRect(8, 8, 111, 46), 16}, action);
 }
 Layout::Row Btn02(Button** field, int x, int y, const char* up, const char* down, ButtonCallback action,
                   const char* text = nullptr) {
-    Layout::Row row = Layout::Family(field, MakeNSRect(x, y, 180, 46), "but_", up, "over_Btn02", down,
-                                     nullptr, {text, NSColor::whiteColor(), MakeNSRect(8, 8, 180, 46), 16});
-    row.action = action;
-    return row;
+    return Layout::Family(field, MakeNSRect(x, y, 180, 46), "but_", up, "over_Btn02", down, nullptr,
+                          {text, NSColor::whiteColor(), MakeNSRect(8, 8, 180, 46), 16}, action);
 }
 Layout::Row Btn03(Button** field, int y, ButtonCallback action) {
-    Layout::Row row = Layout::Family(field, MakeNSRect(5, y, 326, 46), "but_", "normal_Btn03", "over_Btn03",
-                                     "selected_Btn03");
-    row.action = action;
-    return row;
+    return Layout::Family(field, MakeNSRect(5, y, 326, 46), "but_", "normal_Btn03", "over_Btn03",
+                          "selected_Btn03", nullptr, {}, action);
 }
 
 // A page is named for assistive technology, which speaks the name as the focus enters it.

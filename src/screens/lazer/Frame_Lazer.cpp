@@ -10,9 +10,7 @@ namespace {
 
 Layout::Row Configuration(Button** field, qint32 x, const char* up, const char* move, const char* down,
                           const char* name, ButtonCallback action) {
-    Layout::Row row = Layout::Family(field, MakeNSRect(x, 379, 105, 105), "Lazer_", up, move, down, name);
-    row.action = action;
-    return row;
+    return Layout::Family(field, MakeNSRect(x, 379, 105, 105), "Lazer_", up, move, down, name, {}, action);
 }
 
 } // namespace

@@ -55,8 +55,7 @@ Frame_MoveMent::Frame_MoveMent(const NSRect& frame) : NSViewS(frame) {
     QList<Layout::Row> controls;
     for (const Brick& brick : kBricks) {
         controls << Layout::Family(&(this->*brick.field), MakeNSRect(brick.x, brick.y, 62, 62), brick.picture,
-                                   "_common", "_focus", "_focus", brick.name);
-        controls.last().action = brick.action;
+                                   "_common", "_focus", "_focus", brick.name, {}, brick.action);
     }
     controls << QList<Layout::Row>{
         Layout::Family(&BtnSelectBar, MakeNSRect(100, 612, 344, 44), "SelectBarArrow", "_common", "_focus",

@@ -36,9 +36,7 @@ Layout::Row Btn03(Button** field, qint32 y, const char* text, ButtonCallback act
 
 Layout::Row ListButton(Button** field, qint32 x, const char* base, const char* up, const char* move,
                        const char* name, ButtonCallback action) {
-    Layout::Row row = Layout::Family(field, MakeNSRect(x, 328, 48, 25), base, up, move, move, name);
-    row.action = action;
-    return row;
+    return Layout::Family(field, MakeNSRect(x, 328, 48, 25), base, up, move, move, name, {}, action);
 }
 
 } // namespace

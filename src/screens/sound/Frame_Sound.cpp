@@ -18,11 +18,6 @@ Layout::Row Hidden(Layout::Row row) {
     return row;
 }
 
-Layout::Row WithAction(Layout::Row row, ButtonCallback action) {
-    row.action = action;
-    return row;
-}
-
 } // namespace
 
 Frame_Sound::Frame_Sound(const NSRect& frame) : NSViewS(frame) {
@@ -33,18 +28,14 @@ Frame_Sound::Frame_Sound(const NSRect& frame) : NSViewS(frame) {
     // The same small arrows turn the sound set pages and the timeline's pages; the timeline's
     // wait, hidden, for the first item.
     QList<Layout::Row> controls = {
-        WithAction(Family(&b[kBtnPagePre], MakeNSRect(235, 288, 36, 38), "ButtonSmallCircleLeft", "_common",
-                          "_focus", "_focus", "Previous sound page"),
-                   Frame_Sound_PagePreBtnAcion),
-        WithAction(Family(&b[kBtnPageNext], MakeNSRect(276, 288, 36, 38), "ButtonSmallCircleRight", "_common",
-                          "_focus", "_focus", "Next sound page"),
-                   Frame_Sound_PageNextBtnAcion),
-        Hidden(WithAction(Family(&b[kBtnContentUp], MakeNSRect(817, 273, 36, 38), "ButtonSmallCircleUp",
-                                 "_common", "_focus", "_focus", "Timeline page up"),
-                          Frame_Sound_SoundContentUpBtnAction)),
-        Hidden(WithAction(Family(&b[kBtnContentDown], MakeNSRect(854, 273, 36, 38), "ButtonSmallCircleDown",
-                                 "_common", "_focus", "_focus", "Timeline page down"),
-                          Frame_Sound_SoundContentDownBtnAction)),
+        Family(&b[kBtnPagePre], MakeNSRect(235, 288, 36, 38), "ButtonSmallCircleLeft", "_common", "_focus",
+               "_focus", "Previous sound page", {}, Frame_Sound_PagePreBtnAcion),
+        Family(&b[kBtnPageNext], MakeNSRect(276, 288, 36, 38), "ButtonSmallCircleRight", "_common", "_focus",
+               "_focus", "Next sound page", {}, Frame_Sound_PageNextBtnAcion),
+        Hidden(Family(&b[kBtnContentUp], MakeNSRect(817, 273, 36, 38), "ButtonSmallCircleUp", "_common",
+                      "_focus", "_focus", "Timeline page up", {}, Frame_Sound_SoundContentUpBtnAction)),
+        Hidden(Family(&b[kBtnContentDown], MakeNSRect(854, 273, 36, 38), "ButtonSmallCircleDown", "_common",
+                      "_focus", "_focus", "Timeline page down", {}, Frame_Sound_SoundContentDownBtnAction)),
     };
     // Three columns of four rows; the sound set page decides the names, the board the mark.
     static constexpr ButtonCallback kSoundActions[] = {
