@@ -27,15 +27,10 @@ void Do(AlarmFlow& f, const QString& a) {
     f.OpenEditor(F::Editor(editors.indexOf(a)));
 }
 
-// The whole state in one line, each field after its label:
-//   page[/open editor][(whose confirmation)]  the page on view
-//   back:main|choose                          where Back leads
-//   last:-|bday|wake                          the alarm page opened last
-//   on:-|bday|wake|both                       the alarms switched on
-//   freq:once|daily|fri-mon                   the wake-up frequency
-//   pressed:-|bday|wake|both                  the On/Off pairs ever pressed
-//   values                                    the page shows its alarm's values (absent: hidden)
-//   timer N ms once                           a running one-shot timer
+// The whole state in one line, each field after its label: the page [/open editor] [(whose
+// confirmation)], back: where Back leads, last: the alarm page opened last, on: the alarms on,
+// freq: the wake-up frequency, pressed: the On/Off pairs ever pressed, "values" while the page
+// shows its alarm's values, and a running one-shot timer.
 QString Describe(const AlarmFlow& f) {
     static const char* const pages[] = {"choose", "bday", "wake", "confirm"};
     static const char* const editors[] = {"", "/date", "/time", "/wake"};
@@ -123,25 +118,6 @@ private slots:
             if (Describe(f) != before) QVERIFY2(changes.size() > told, qPrintable(action));
         }
         QCOMPARE(Describe(f), state);
-    }
-
-    // Each Set writes its own text from the picker's value.
-    void texts_data() {
-        QTest::addColumn<QString>("set");
-        QTest::addColumn<QStringList>("texts"); // birthday date, birthday time, wake-up time
-        QTest::newRow("made from the first value") << "" << QStringList{"2009/03/07", "07/05", "07/05"};
-        QTest::newRow("birthday date") << "setDate" << QStringList{"1999/12/31", "07/05", "07/05"};
-        QTest::newRow("birthday time") << "setTime" << QStringList{"2009/03/07", "23/59", "07/05"};
-        QTest::newRow("wake-up time") << "setWake" << QStringList{"2009/03/07", "07/05", "23/59"};
-    }
-    void texts() {
-        QFETCH(QString, set);
-        QFETCH(QStringList, texts);
-        AlarmFlow f(kMade);
-        if (!set.isEmpty()) Do(f, set);
-        QCOMPARE((QStringList{f.formattedBirthDateString(), f.formattedBirthTimeString(),
-                              f.formattedWakeupTimeString()}),
-                 texts);
     }
 };
 
