@@ -23,34 +23,46 @@ void ByLines(const QList<QRect>& rects, Places& places) {
     }
 }
 
-// Splits `places`, sorted along one axis, where the next one starts at least `gap` past the
-// furthest end so far.
-QList<Places> Split(const QList<QRect>& rects, Places places, bool alongX, int gap) {
+// The widest cut across one axis: where `places`, sorted along it, part with the most free
+// room between one and the next; its width, and the places before it. None: width -1.
+struct Cut {
+    int width = -1;
+    Places before, after;
+};
+
+Cut Widest(const QList<QRect>& rects, Places places, bool alongX) {
     const auto start = [&](qsizetype i) { return alongX ? rects[i].x() : rects[i].y(); };
     const auto end = [&](qsizetype i) {
         return alongX ? rects[i].x() + rects[i].width() : rects[i].y() + rects[i].height();
     };
     std::stable_sort(places.begin(), places.end(),
                      [&](qsizetype a, qsizetype b) { return start(a) < start(b); });
-    QList<Places> parts;
-    int reach = 0;
-    for (const qsizetype i : places) {
-        if (parts.isEmpty() || start(i) >= reach + gap) {
-            parts.append(Places{});
-            reach = end(i);
+    Cut cut;
+    qsizetype at = 0;
+    int reach = end(places.first());
+    for (qsizetype k = 1; k < places.size(); ++k) {
+        if (start(places[k]) - reach > cut.width) {
+            cut.width = start(places[k]) - reach;
+            at = k;
         }
-        parts.last().append(i);
-        reach = std::max(reach, end(i));
+        reach = std::max(reach, end(places[k]));
     }
-    return parts;
+    cut.before = places.first(at);
+    cut.after = places.sliced(at);
+    return cut;
 }
 
 void Read(const QList<QRect>& rects, const Places& places, Places& order) {
     if (places.size() > 1) {
-        for (const auto& [alongX, gap] : {std::pair{false, 0}, std::pair{true, kReadingGutter}}) {
-            const QList<Places> parts = Split(rects, places, alongX, gap);
-            if (parts.size() < 2) continue;
-            for (const Places& part : parts) Read(rects, part, order);
+        const Cut across = Widest(rects, places, false);
+        const Cut down = Widest(rects, places, true);
+        const Cut* cut = across.width >= kReadingLead   ? &across
+                         : down.width >= kReadingGutter ? &down
+                         : across.width >= 0            ? &across
+                                                        : nullptr;
+        if (cut) {
+            Read(rects, cut->before, order);
+            Read(rects, cut->after, order);
             return;
         }
     }

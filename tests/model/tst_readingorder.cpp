@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-// Controls are read in bands from the top, columns from the left, lines from the left; a run is
+// Controls are read part by part, cut where free room parts them, then line by line; a run is
 // read together in its own order.
 class TestReadingOrder : public QObject {
     Q_OBJECT
@@ -35,6 +35,14 @@ private slots:
                                                            << QList<int>{} << QList<qsizetype>{0, 1, 2, 3, 4};
         QTest::newRow("a narrower gap is no gutter")
             << QList<QRect>{{0, 20, 50, 20}, {60, 20, 50, 20}, {0, 40, 50, 20}, {133, 0, 100, 100}}
+            << QList<int>{} << QList<qsizetype>{0, 2, 1, 3};
+        // Rows apart by the lead go first, columns then; rows closer than that are one group,
+        // which a gutter parts into columns.
+        QTest::newRow("rows apart by the lead before columns")
+            << QList<QRect>{{0, 0, 50, 20}, {100, 0, 50, 20}, {0, 28, 50, 20}, {100, 28, 50, 20}}
+            << QList<int>{} << QList<qsizetype>{0, 1, 2, 3};
+        QTest::newRow("columns before rows closer than the lead")
+            << QList<QRect>{{0, 0, 50, 20}, {100, 0, 50, 20}, {0, 27, 50, 20}, {100, 27, 50, 20}}
             << QList<int>{} << QList<qsizetype>{0, 2, 1, 3};
         // Four items whose second row runs right to left, and a control right of them.
         QTest::newRow("a run in its own order, in its place")
