@@ -221,8 +221,9 @@ void KeyboardNavigation::showRing() {
 }
 
 void KeyboardNavigation::keepFocusOnView() {
+    // At once, not once the change is over: the next key may already be waiting.
     QWidget* focus = focused();
-    if (focus && !TakesFocus(focus)) FocusFirst(focus->window());
+    if (m_window && (!focus || !TakesFocus(focus))) FocusFirst(m_window);
     showRing();
 }
 

@@ -68,7 +68,7 @@ private:
     void setKeyboardInUse(bool inUse);
     QWidget* focused() const;
     void showRing();
-    // After a key's work: a focus the work covered goes to the first control on view.
+    // After a key's work: a focus the work hid or covered goes to the first control on view.
     void keepFocusOnView();
 
     bool m_keyboard = false;
