@@ -22,12 +22,19 @@ QRect ViewAccessible::rect() const {
     return DrawnRect(widget());
 }
 
+QAccessibleInterface* ViewAccessible::childAt(int x, int y) const {
+    // Children are listed bottom to top.
+    for (int i = childCount() - 1; i >= 0; --i)
+        if (QAccessibleInterface* c = child(i); c && c->isValid() && c->rect().contains(x, y)) return c;
+    return nullptr;
+}
+
 void ViewAccessible::SetRole(QWidget* view, QAccessible::Role role) {
     view->setProperty(kRole, QVariant::fromValue(role));
 }
 
 QRect ViewAccessible::DrawnRect(const QWidget* widget) {
-    if (!widget) return {};
+    if (!widget || !widget->isVisible()) return {};
     const QWidget* window = widget->window();
     QRectF drawn(widget->mapTo(window, QPointF(0, 0)), widget->size());
     QPointF origin = window->mapToGlobal(QPointF(0, 0));

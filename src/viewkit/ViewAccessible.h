@@ -11,9 +11,13 @@ public:
 
     QAccessible::Role role() const override;
     QRect rect() const override;
+    // What is drawn at a point: the topmost child there (Qt's own answer is the first one listed,
+    // the background a screen lays first).
+    QAccessibleInterface* childAt(int x, int y) const override;
 
     // Where the widget is drawn on its screen, in the screen's own pixels: through the view that
-    // shows its window scaled, and at the screen's scale (readers and magnifiers use device pixels).
+    // shows its window scaled, and at the screen's scale (readers and magnifiers use device pixels);
+    // empty while it is not shown.
     static QRect DrawnRect(const QWidget* widget);
     // The role a screen gives a view beyond a grouping; kept on the view, read when asked.
     static void SetRole(QWidget* view, QAccessible::Role role);

@@ -61,7 +61,7 @@ class Session:
 
     def window(self):
         # The app's window on the X screen: x, y, width, height.
-        out = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Robot Companion$",
+        out = subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "^Robot Companion$",
                               "getwindowgeometry", "--shell"], check=True, capture_output=True, text=True).stdout
         return tuple(int(v) for v in re.findall(r"=(\d+)", out)[1:5])  # after WINDOW: X, Y, WIDTH, HEIGHT
 
@@ -156,17 +156,21 @@ def case_route(session):
 
 
 def case_extents(session, scale):
-    # One frame, and "Program scenario" reported where it is drawn (within a pixel and a half).
+    # One frame, "Program scenario" reported where it is drawn (within a pixel and a half), and found
+    # there by what is under a point (a reader's mouse review, a magnifier).
     import pyatspi
     app = main_window(session)
-    frames = [w.name for w in app if w is not None and w.getRoleName() == "frame"]
-    assert frames == ["Robot Companion"], f"top-level frames: {frames}"
+    frames = [w for w in app if w is not None and w.getRoleName() == "frame"]
+    assert [f.name for f in frames] == ["Robot Companion"], f"top-level frames: {[f.name for f in frames]}"
     x, y, width, height = session.window()
     factor = scale or width / 1024
     drawn = (x + PROGRAM[0] * factor, y + PROGRAM[1] * factor, PROGRAM[2] * factor, PROGRAM[3] * factor)
     e = get(app, "push button", "Program scenario").queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
     assert all(abs(r - d) <= 1.5 for r, d in zip((e.x, e.y, e.width, e.height), drawn)), \
         f"reported at {(e.x, e.y, e.width, e.height)}, drawn at {tuple(round(v) for v in drawn)}"
+    centre = (round(drawn[0] + drawn[2] / 2), round(drawn[1] + drawn[3] / 2))
+    hit = frames[0].queryComponent().getAccessibleAtPoint(*centre, pyatspi.DESKTOP_COORDS)
+    assert hit is not None and hit.name == "Program scenario", f"at its centre: {hit and hit.name}"
 
 
 # name: the X screen's size, the app's environment, the check
