@@ -56,8 +56,11 @@ bool ScreenTour::mainMenu() {
     RobotSlide& slide = menu->robotSlide;
     slide.timer->stop();
     while (slide.y > 515) slide.RobotAction();
+    // Started again only after the picture: the wait for the window's paint would otherwise let
+    // as many ticks pass as the machine happens to allow.
+    const bool shot = stop(QStringLiteral("main-menu-robot-arriving"));
     slide.timer->start();
-    if (!stop(QStringLiteral("main-menu-robot-arriving"))) return false;
+    if (!shot) return false;
     if (!m_app.waitForMainMenuReady(10000)) return fail(QStringLiteral("the menu never got ready"));
     if (!stop(QStringLiteral("main-menu"))) return false;
     // Pointed at: lit picture, white caption. The grab is taken with the pointer still there.
