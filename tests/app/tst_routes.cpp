@@ -147,17 +147,13 @@ private slots:
             << keysToDate + QStringList{"key Return", "focus Birthday date, */*/*"} << "alarm: birthday"
             << true;
         // The confirmation holds the focus and ignores keys for its while; then the choose page.
-        const QStringList keysToConfirmation =
-            toBirthday +
-            QStringList{"Birthday alarm, On",
-                        "tab to Done",
-                        "key Space",
-                        "focus Birthday Alarm is on!!! It means I'll congraduate you on your birthday!",
-                        "key Esc",
-                        "key Space"};
-        QTest::newRow("keys: confirmation holds") << keysToConfirmation << "alarm: confirmation" << true;
-        QTest::newRow("keys: confirmation, then the choose page")
-            << keysToConfirmation + QStringList{"confirmation ends", "focus Birthday alarm:On"}
+        const QString held = "Birthday Alarm is on!!! It means I'll congraduate you on your birthday!";
+        QTest::newRow("keys: confirmation holds, then the choose page")
+            << toBirthday +
+                   QString("Birthday alarm, On|tab to Done|key Space|focus %1|key Esc|key Space|focus "
+                           "%1|confirmation ends|focus Birthday alarm:On")
+                       .arg(held)
+                       .split(u'|')
             << "alarm: choose" << true;
     }
 

@@ -33,9 +33,6 @@ private slots:
                                                                            {60, 40, 50, 20},
                                                                            {134, 0, 100, 100}}
                                                            << QList<int>{} << QList<qsizetype>{0, 1, 2, 3, 4};
-        QTest::newRow("a narrower gap is no gutter")
-            << QList<QRect>{{0, 20, 50, 20}, {60, 20, 50, 20}, {0, 40, 50, 20}, {133, 0, 100, 100}}
-            << QList<int>{} << QList<qsizetype>{0, 2, 1, 3};
         // Rows apart by the lead go first, columns then; rows closer than that are one group,
         // which a gutter parts into columns.
         QTest::newRow("rows apart by the lead before columns")
