@@ -39,7 +39,7 @@ bool ScreenTour::stop(const QString& name) {
 
 bool ScreenTour::save(const QString& file) {
     // Quality 0: the smallest PNG; they go into the repository.
-    if (!m_app.window()->grab().save(m_folder.filePath(file), "PNG", 0))
+    if (!m_app.appWindow()->grab().save(m_folder.filePath(file), "PNG", 0))
         return fail(QStringLiteral("could not write ") + file);
     m_written << file;
     return true;
@@ -74,7 +74,7 @@ bool ScreenTour::mainMenu() {
 bool ScreenTour::ring(const QString& name, QWidget* control) {
     // By the keyboard only; the next click takes the ring away again.
     m_app.moveTo(kPark);
-    for (int tab = 0; tab < 30 && !(tab > 0 && control->hasFocus()); ++tab) m_app.key(Qt::Key_Tab);
+    for (int tab = 0; tab < 30 && !(tab > 0 && control->hasFocus()); ++tab) m_app.typeKey(Qt::Key_Tab);
     if (!control->hasFocus()) return fail(QStringLiteral("Tab never reached ") + name);
     QTest::qWait(50);
     ++m_rings; // outside the numbered stops

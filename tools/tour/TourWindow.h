@@ -20,7 +20,7 @@ public:
         if (!QTest::qWaitForWindowExposed(m_window.get())) qWarning("window was not exposed");
     }
 
-    QWidget* window() const { return m_window.get(); }
+    QWidget* appWindow() const { return m_window.get(); }
     Frame_Control* root() const { return m_root; }
 
     void moveTo(QPoint pos) { QTest::mouseMove(handle(), pos); }
@@ -33,7 +33,7 @@ public:
     }
 
     // A key typed into the window, as the keyboard does.
-    void key(Qt::Key key) { QTest::keyClick(handle(), key); }
+    void typeKey(Qt::Key key) { QTest::keyClick(handle(), key); }
 
     // The robot's remaining ticks taken at once; true when the menu's buttons are on view.
     bool waitForMainMenuReady(int timeoutMs) const {
@@ -52,7 +52,7 @@ public:
 
 private:
     QWindow* handle() const { return m_window->windowHandle(); }
-    QPoint centre(const QWidget* widget) const { return widget->mapTo(window(), widget->rect().center()); }
+    QPoint centre(const QWidget* widget) const { return widget->mapTo(appWindow(), widget->rect().center()); }
 
     std::unique_ptr<QWidget> m_window{LoadMainWindow()};
     Frame_Control* m_root = RootView(m_window.get());
