@@ -76,6 +76,7 @@ private slots:
         QTest::newRow("menu, program") << QStringList{"Program scenario"} << "scenario" << false;
         QTest::newRow("menu, escape stays") << QStringList{"key Esc"} << "main menu" << true;
         back("scenario", {"Program scenario"}, "main menu", true);
+        back("scenario list", {"Program scenario", "Modify exist scenario"}, "main menu", true);
         QTest::newRow("scenario, create") << toMovement << "movement" << true;
         QTest::newRow("scenario, modify and go")
             << QStringList{"Program scenario", "Modify exist scenario", "Go"} << "movement" << true;
