@@ -51,6 +51,10 @@ echo "## Ticks and drawing"
 echo
 ticks_table="$("$bench/bench_ticks" 2>/dev/null)"
 echo "$ticks_table"
+echo
+echo "## The user's own work"
+echo
+"$bench/bench_session" 2>/dev/null
 
 [ $callgrind -eq 1 ] || exit 0
 
@@ -79,9 +83,9 @@ f="$(summary "$out/first.empty")"
 a="$(summary "$out/first.app")"
 echo "| First frame in process | $f | $a | $(ratio "$a" "$f") |"
 
-row() { # label --only bench-function floor-function samples
+row() { # label --only bench-function floor-function samples [executable]
     valgrind --tool=callgrind --callgrind-out-file="$out/$2" --toggle-collect="$3*" --toggle-collect="$4*" \
-        "$bench/bench_ticks" --only "$2" --samples "$5" >"$out/$2.txt" 2>/dev/null
+        "$bench/${6:-bench_ticks}" --only "$2" --samples "$5" >"$out/$2.txt" 2>/dev/null
     local n a f
     n="$(awk -F'|' 'NR > 4 && $3 ~ /[0-9]/ { gsub(" ", "", $3); print $3; exit }' "$out/$2.txt")"
     a="$(per "$(inclusive "$out/$2" "$3")" "$n")"
@@ -94,3 +98,5 @@ row "Path drawing, 512 pieces" path BenchPathBatch BenchPathFloorBatch 3
 # The window shown scaled as on a 1024 x 600 screen, against the same window at 1:1.
 row "Robot slide frame, scaled to 0.78 (floor: 1:1)" scaled-robot BenchScaledRobotTick BenchRobotTick 100
 row "Timeline scroll tick, scaled to 0.78 (floor: 1:1)" scaled-timeline BenchScaledTimelineTick BenchTimelineTick 46
+row "One-page timeline scroll, 512 items (floor: 24 items)" scroll BenchScrollMany BenchScrollFew 6 bench_session
+row "Pointer move after a long session (floor: the same window fresh)" hover BenchMoveLong BenchMoveFresh 100 bench_session

@@ -9,6 +9,8 @@
 #include "Frame_Sound.h"
 #include "KeyboardNavigation.h"
 
+#include <algorithm>
+
 namespace {
 
 NSViewS* MakeScreen(ScreenId id, const NSRect& frame) {
@@ -40,12 +42,11 @@ NSRect Frame_Control::WindowFrame() {
 Frame_Control::Frame_Control(const NSRect& frame) : NSViewS(frame) {
     // The menu buttons appear when the robot arrives: from then on every screen can be reached.
     connect(&frmMainMenu()->robotSlide, &RobotSlide::arrived, this, [this] {
-        while (m_building.isActive()) BuildNextScreen();
+        for (qsizetype i = 0; i < kScreenCount; ++i) ScreenOf(static_cast<ScreenId>(i));
     });
     connect(&m_navigator, &ScreenNavigator::switched, this, &Frame_Control::ShowScreen);
     m_building.setInterval(0);
     connect(&m_building, &QTimer::timeout, this, &Frame_Control::BuildNextScreen);
-    m_building.start();
 }
 
 Frame_Control::Frame_Control(QWidget* parent) : Frame_Control(WindowFrame()) {
@@ -68,6 +69,14 @@ NSViewS* Frame_Control::ScreenOf(ScreenId id) const {
     for (NSViewS* built : frmFrameRec)
         if (built) built->raise();
     return screen;
+}
+
+void Frame_Control::paintEvent(QPaintEvent*) {
+    // Painted, the first frame is done: the screens still missing are built from the next pass of
+    // the event loop on, one per pass.
+    if (!m_building.isActive() &&
+        std::find(frmFrameRec.begin(), frmFrameRec.end(), nullptr) != frmFrameRec.end())
+        m_building.start();
 }
 
 void Frame_Control::BuildNextScreen() {

@@ -18,10 +18,10 @@ class Frame_Lazer;
 
 // The window's content view: holds the seven screens, stacked in one place, and shows one at a
 // time. The main menu is built with the view; the six others, which nobody can reach before the
-// robot has arrived, are built one per pass of the event loop once the window is up, so that the
-// first frame waits only for the menu. Any screen needed before its turn is built there and
-// then, so nothing ever finds one missing. Screens are never moved or destroyed; they are only
-// hidden and shown.
+// robot has arrived, are built one per pass of the event loop once the first frame is painted,
+// so that it waits only for the menu, and all are there when the robot arrives. Any screen needed before its
+// turn is built there and then, so nothing ever finds one missing. Screens are never moved or destroyed; they
+// are only hidden and shown.
 class Frame_Control : public NSViewS, public ScreenHost {
     Q_OBJECT
 public:
@@ -49,6 +49,7 @@ private:
     // The screen, built if it was not yet.
     NSViewS* ScreenOf(ScreenId id) const;
     void BuildNextScreen();
+    void paintEvent(QPaintEvent* event) override;
     // The one place where screens are switched.
     void ShowScreen(ScreenId from, ScreenId to, bool trackingOn);
 

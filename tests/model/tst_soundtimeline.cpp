@@ -70,7 +70,10 @@ private slots:
     }
 
     // A page request is refused before the first page or past the last item's; an accepted one
-    // brings the target item 20 points a tick to the top row, the last tick overshooting.
+    // brings the target item 20 points a tick to the top row, the last tick overshooting. Each
+    // tick moves every item, the arriving one puts every item in its place; the items said to be
+    // on view are those with a view reaching into the timeline's 224 points, never more than two
+    // pages and the next page's first link bar.
     void scroll_data() {
         QTest::addColumn<qint32>("items");
         QTest::addColumn<qint32>("from");
@@ -95,13 +98,26 @@ private slots:
         ScrollTo(t, from);
         QSignalSpy steps(&t, &SoundTimeline::ItemsScrolled);
         QSignalSpy arrived(&t, &SoundTimeline::ScrollArrived);
+        QList<SoundContentLoc> was;
+        for (qint32 n = 0; n < items; ++n) was << t.GetSoundContentLoc(n);
         t.SoundContentMoveToPage(to);
         QCOMPARE(t.iPageNumber(), ticks ? to : from);
         if (t.timer()) QCOMPARE(t.timer()->interval(), 10); // ticks of a hundredth of a second
         if (t.timer()) t.timer()->stop();
-        for (int guard = 0; t.Busy() && guard < 1000; ++guard)
+        const qint32 dy = to > from ? -kSoundContentScrollStep : kSoundContentScrollStep;
+        for (int guard = 0; guard < 1000; ++guard) {
+            const auto [first, end] = t.ItemsOnView();
+            QVERIFY(end - first <= 2 * kSoundContentPageSize + 1);
+            for (qint32 n = 0; n < items; ++n) {
+                QCOMPARE(t.ItemLocNow(n), was[n]);
+                QCOMPARE(n >= first && n < end, OnView(was[n]));
+            }
+            if (!t.Busy()) break;
             to > from ? t.SoundContentItemDown() : t.SoundContentItemUP();
-        const QVariant step = to > from ? -kSoundContentScrollStep : kSoundContentScrollStep;
+            for (qint32 n = 0; n < items; ++n)
+                was[n] = t.Busy() ? Scrolled(was[n], dy) : t.GetSoundContentLoc(n);
+        }
+        const QVariant step = dy;
         QCOMPARE(steps, QList<QList<QVariant>>(ticks, {step}));
         QCOMPARE(arrived.size(), ticks ? 1 : 0);
     }
@@ -175,48 +191,6 @@ private slots:
         SoundTimeline t;
         for (const qint32 sound : {-1, 36, 35}) t.SetSoundContent(sound);
         QCOMPARE(t.iItemNum(), 1);
-    }
-
-    // Each tick moves every item 20 points and the arriving one puts every item in its place;
-    // the items said to be on view are exactly those with a view reaching into the timeline's
-    // 224 points, at most two pages and the next page's first link bar.
-    void itemsOnView_data() {
-        QTest::addColumn<qint32>("items");
-        QTest::addColumn<qint32>("from");
-        QTest::addColumn<qint32>("to");
-        QTest::newRow("one page on") << 36 << 0 << 1;
-        QTest::newRow("one page back") << 36 << 1 << 0;
-        QTest::newRow("three pages on") << 512 << 0 << 3;
-        QTest::newRow("to the last, partly filled page") << 512 << 41 << 42;
-        QTest::newRow("a single page") << 5 << 0 << 1;
-        QTest::newRow("no items") << 0 << 0 << 1;
-    }
-    void itemsOnView() {
-        QFETCH(qint32, items);
-        QFETCH(qint32, from);
-        QFETCH(qint32, to);
-        SoundTimeline t;
-        Fill(t, items);
-        ScrollTo(t, from);
-        QList<SoundContentLoc> was;
-        for (qint32 n = 0; n < items; ++n) was << t.GetSoundContentLoc(n);
-        t.SoundContentMoveToPage(to);
-        if (t.timer()) t.timer()->stop();
-        for (int tick = 0; tick < 100; ++tick) {
-            const auto [first, end] = t.ItemsOnView();
-            QVERIFY(end - first <= 2 * kSoundContentPageSize + 1);
-            for (qint32 n = 0; n < items; ++n) {
-                QCOMPARE(t.ItemLocNow(n), was[n]);
-                QCOMPARE(n >= first && n < end, OnView(was[n]));
-            }
-            if (!t.Busy()) break;
-            to > from ? t.SoundContentItemDown() : t.SoundContentItemUP();
-            for (qint32 n = 0; n < items; ++n)
-                was[n] = t.Busy() ? Scrolled(was[n],
-                                             to > from ? -kSoundContentScrollStep : kSoundContentScrollStep)
-                                  : t.GetSoundContentLoc(n);
-        }
-        QVERIFY(!t.Busy());
     }
 };
 
