@@ -63,7 +63,7 @@ echo
 out="$(mktemp -d)"
 trap 'rm -rf "$out"' EXIT
 inclusive() { # file function -> inclusive instruction count of that function
-    callgrind_annotate --inclusive=yes "$1" 2>/dev/null |
+    callgrind_annotate --inclusive=yes --threshold=100 "$1" 2>/dev/null |
         awk -v f="$2(" 'index($0, f) && index($0, ":" f) { gsub(",", "", $1); print $1; exit }'
 }
 summary() { awk '/^summary:/ { print $2 }' "$1"; }
