@@ -33,13 +33,22 @@ class Session:
     def __init__(self, binary, size, env):
         self.folder = tempfile.mkdtemp(prefix="robot-reader-")
         self.processes = []
-        read, write = os.pipe()
-        self.start("Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
-                   pass_fds=(write,))
-        os.close(write)
-        with os.fdopen(read) as number:
-            os.environ.update(DISPLAY=":" + number.readline().strip(), XDG_RUNTIME_DIR=self.folder,
-                              HOME=self.folder)
+        os.environ.update(XDG_RUNTIME_DIR=self.folder, HOME=self.folder)
+        # The server says its number before it takes clients, and may lose its display to another
+        # starting at the same time: it counts once the tools can talk to it.
+        for _ in range(5):
+            read, write = os.pipe()
+            server = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten",
+                                "tcp", pass_fds=(write,))
+            os.close(write)
+            with os.fdopen(read) as number:
+                os.environ["DISPLAY"] = ":" + number.readline().strip()
+            deadline = time.monotonic() + 10
+            while server.poll() is None and time.monotonic() < deadline and subprocess.run(
+                    ["xdotool", "getmouselocation"], capture_output=True).returncode:
+                time.sleep(0.1)
+            if server.poll() is None and time.monotonic() < deadline:
+                break
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1", stdout=subprocess.PIPE)
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
         self.log = open(os.path.join(self.folder, "app.err"), "w+")
