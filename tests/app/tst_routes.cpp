@@ -13,6 +13,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The one control on view that a screen reader calls `name` (* standing for any characters
@@ -165,46 +167,33 @@ private slots:
         AppHarness app;
         QVERIFY(app.waitForMainMenuReady());
         for (const QString& step : steps) {
-            const QString rest = step.section(u' ', 1);
-            if (step.startsWith(QLatin1String("type "))) {
+            const QString verb = step.section(u' ', 0, 0), rest = step.section(u' ', 1);
+            if (verb == "type"_L1) {
                 for (const QChar c : rest) QTest::keyClick(app.handle(), c.toLatin1());
-                continue;
-            }
-            if (step.startsWith(QLatin1String("key "))) {
+            } else if (verb == "key"_L1) {
                 QTest::keyClick(app.handle(), QKeySequence(rest)[0].key());
-                continue;
-            }
-            if (step == QLatin1String("confirmation ends")) {
+            } else if (step == "confirmation ends"_L1) {
                 app.root()->frmAlarm()->flow.DoneView();
-                continue;
-            }
-            // The focus may follow once the change that moved it is over.
-            if (step.startsWith(QLatin1String("focus "))) {
+            } else if (verb == "focus"_L1) { // the focus may follow once the change that moved it is over
                 QTRY_COMPARE(QApplication::focusWidget(), OnView(app.root(), rest));
-                continue;
-            }
-            if (step.startsWith(QLatin1String("sees ")) || step.startsWith(QLatin1String("misses "))) {
-                QVERIFY2((OnView(app.root(), rest) != nullptr) == step.startsWith(u's'), qPrintable(step));
-                continue;
-            }
-            if (step.startsWith(QLatin1String("chosen "))) {
+            } else if (verb == "sees"_L1 || verb == "misses"_L1) {
+                QVERIFY2((OnView(app.root(), rest) != nullptr) == (verb == "sees"_L1), qPrintable(step));
+            } else if (verb == "chosen"_L1) {
                 QWidget* chosen = OnView(app.root(), rest);
                 QVERIFY2(chosen, qPrintable(step));
                 const QAccessible::State state = QAccessible::queryAccessibleInterface(chosen)->state();
                 QVERIFY2(state.selected || state.checked, qPrintable(step));
-                continue;
-            }
-            if (step.startsWith(QLatin1String("tab to "))) {
+            } else if (step.startsWith("tab to "_L1)) {
                 QWidget* target = OnView(app.root(), step.mid(7));
                 // At least one Tab: the ring shows only once a key is used.
                 for (int tab = 0; tab < 10 && (tab == 0 || QApplication::focusWidget() != target); ++tab)
                     QTest::keyClick(app.handle(), Qt::Key_Tab);
                 QCOMPARE(QApplication::focusWidget(), target);
-                continue;
+            } else {
+                QWidget* control = OnView(app.root(), step);
+                QVERIFY2(control, qPrintable(step + QStringLiteral(" is not on view")));
+                app.click(control);
             }
-            QWidget* control = OnView(app.root(), step);
-            QVERIFY2(control, qPrintable(step + QStringLiteral(" is not on view")));
-            app.click(control);
         }
         QCOMPARE(Shown(app), shown);
         auto* probe =

@@ -108,8 +108,8 @@ def get(root, role, name):
     raise AssertionError(f"no {role} {name!r} shows")
 
 
-def press(accessible):
-    action = accessible.queryAction()
+def press(app, role, name):
+    action = get(app, role, name).queryAction()
     action.doAction([action.getName(i) for i in range(action.nActions)].index("Press"))
 
 
@@ -147,19 +147,19 @@ def case_route(session):
     x, y, _, _ = session.window()
     subprocess.run(["xdotool", "mousemove", str(x + PROGRAM[0] + 100), str(y + PROGRAM[1] + 40), "click", "1"])
     announced("the scenario screen", "focused", "push button", None, "Scenario")
-    press(get(app, "push button", "Create a new scenario"))
+    press(app, "push button", "Create a new scenario")
     announced("the name field", "focused", "text", "Scenario name")
     get(app, "text", "Scenario name").queryEditableText().insertText(0, "Robo", 4)
     create = get(app, "push button", "Create")
     session.wait(lambda: create.getState().contains(pyatspi.STATE_ENABLED), "inserted text left Create disabled")
-    press(get(app, "push button", "Back"))
-    press(get(app, "push button", "Alarm/Clock"))
+    press(app, "push button", "Back")
+    press(app, "push button", "Alarm/Clock")
     announced("the alarm's choose page", "focused", "push button", None, "Alarm: choose")
-    press(get(app, "push button", "Birthday alarm:Off"))
+    press(app, "push button", "Birthday alarm:Off")
     announced("the birthday page", "focused", "radio button", None, "Alarm: birthday")
-    press(get(app, "radio button", "Birthday alarm, On"))
+    press(app, "radio button", "Birthday alarm, On")
     get(app, "push button", re.compile(r"Birthday date, \d{4}/\d\d/\d\d"))
-    press(get(app, "push button", "Done"))
+    press(app, "push button", "Done")
     announced("the confirmation", "showing", "alert", "Alarm: confirmation")
     get(get(app, "alert", "Alarm: confirmation"), "label", re.compile("Birthday Alarm is on!!!.*", re.S))
 

@@ -4,14 +4,8 @@
 
 #include "AppHarness.h"
 #include "Button.h"
-#include "ButtonAccessible.h"
 #include "FocusRing.h"
-#include "Frame_Alarm.h"
 #include "Frame_Control.h"
-#include "Frame_Lazer.h"
-#include "Frame_MainMenu.h"
-#include "Frame_Scenario.h"
-#include "Frame_Sound.h"
 #include "NSColor.h"
 #include "ViewKit.h"
 
@@ -19,7 +13,6 @@
 #include <QBitmap>
 #include <QDateTimeEdit>
 #include <QDebug>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTest>
@@ -178,23 +171,20 @@ const struct {
     {"pointing without registration", "in out", "", "up", 0},
     {"enter, act, exit", "register in press release out", "entered action exited", "up", 0},
     {"under the pointer", "register in", "entered", "move", 0},
-    {"disabled ignores the mouse, the page takes the press", "register disable in press release out", "",
-     "up", 1},
-    {"enabled again, no new registration needed", "register disable enable in press release",
-     "entered action", "up", 0},
+    {"disabled: the page takes the mouse", "register disable in press release out", "", "up", 1},
+    {"enabled again, as registered", "register disable enable in press release", "entered action", "up", 0},
     {"disabling keeps the picture shown", "register in disable out", "entered", "move", 0},
     {"registered while hidden: never fires", "hide register show in out", "", "up", 0},
     {"registered while the page was hidden: never fires", "hidePage register showPage in out", "", "up", 0},
     {"registration stays where it was made", "register moveDown in", "entered", "move", 0},
-    {"each registration fires, however many", "register register register in out",
+    {"each registration fires", "register register register in out",
      "entered entered entered exited exited exited", "up", 0},
     {"registered with the pointer inside: fires on the next move", "register in register inAgain out in",
      "entered entered exited exited entered entered", "move", 0},
     {"after a long session each registration fires once", "longSession register register in out",
      "entered entered exited exited", "up", 0},
     {"only the part on view is registered", "halfOff register inHalfOff pastPage", "entered exited", "up", 0},
-    {"setting pictures again brings it to the front", "picturesAgain pressBoth releaseBoth", "action", "up",
-     0},
+    {"new pictures bring it to the front", "picturesAgain pressBoth releaseBoth", "action", "up", 0},
     {"a callback that hides the button has the last word", "hideOnRelease press release", "hid", "hidden", 0},
 };
 
@@ -266,8 +256,8 @@ private slots:
     }
 
     // Through QAccessible only: every control, on every screen and page, is a push or radio button
-    // with a name a person can say and a press action; every text field has a name; every screen is
-    // a named grouping; the window is a window named by its title.
+    // with a name a person can say and a press action; every picker has a name; every screen is a
+    // named grouping.
     void everyControlIsNamed() {
         AppHarness app;
         QVERIFY(app.waitForMainMenuReady()); // the menu's Settings gets its caption on arrival
@@ -285,61 +275,26 @@ private slots:
         QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(u", "_s)));
         for (const QWidget* field : app.root()->findChildren<QDateTimeEdit*>())
             QVERIFY(!field->accessibleName().isEmpty());
-        QVERIFY(!app.root()->frmScenario()->txtScenarioName->accessibleName().isEmpty());
         for (NSViewS* screen : app.root()->findChildren<NSViewS*>(Qt::FindDirectChildrenOnly)) {
             QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(screen);
             QVERIFY(iface->role() == QAccessible::Grouping && !iface->text(QAccessible::Name).isEmpty());
         }
-        QAccessibleInterface* window = QAccessible::queryAccessibleInterface(app.window());
-        QCOMPARE(window->role(), QAccessible::Window);
-        QCOMPARE(window->text(QAccessible::Name), u"Robot Companion"_s);
-    }
-
-    // What the pictures show chosen reads as checked (one of a set of choices) or selected (an item
-    // of a list), as the model has it.
-    void choicesAreCheckedOrSelected() {
-        AppHarness app;
-        Frame_Control* r = app.root();
-        Frame_Alarm* a = r->frmAlarm();
-        Frame_Scenario* s = r->frmScenario();
-        Button* const* sound = r->frmSound()->BtnButton;
-        Frame_Lazer* l = r->frmLazer();
-        for (Button* b : {a->BtnWakeupStatus, a->BtnWakeupOn, a->BtnWakeupFreq2, s->BtnModify,
-                          s->BtnScenarioName[2], sound[Frame_Sound::kBtnSoundLast], l->BtnLazer3})
-            b->click();
-        const std::tuple<Button*, Button*, bool> chosenOtherChecked[] = {
-            {a->BtnWakeupOn, a->BtnWakeupOff, true},
-            {a->BtnWakeupFreq2, a->BtnWakeupFreq1, true},
-            {a->BtnBirthdayOff, a->BtnBirthdayOn, true}, // never switched: off
-            {s->BtnScenarioName[2], s->BtnScenarioName[0], false},
-            {sound[Frame_Sound::kBtnSoundLast], sound[Frame_Sound::kBtnSoundFirst], false},
-            {l->BtnLazer3, l->BtnLazer1, true}};
-        for (const auto& [chosen, other, check] : chosenOtherChecked) {
-            const QAccessible::State y = QAccessible::queryAccessibleInterface(chosen)->state(),
-                                     n = QAccessible::queryAccessibleInterface(other)->state();
-            QVERIFY2(check ? y.checkable && y.checked && n.checkable && !n.checked
-                           : y.selectable && y.selected && n.selectable && !n.selected,
-                     qPrintable(ButtonAccessible::NameOf(chosen)));
-        }
     }
 
     // A click never takes the focus and the ring shows only after a key: the first Tab shows
-    // it where the focus is, the next moves it; the focus is told.
+    // it where the focus is, the next moves it; a press hides it. (A reader hears the focus
+    // through the bus, in the accessibility group.)
     void theFocusRingShowsOnlyForTheKeyboard() {
         Host h;
         h.a->setFocus();
         h.press(inBoth);
         h.release(inBoth);
-        QVERIFY(h.a->hasFocus());
-        QVERIFY(!h.window.findChild<FocusRing*>());
+        QVERIFY(h.a->hasFocus() && !h.window.findChild<FocusRing*>());
         QTest::keyClick(h.window.windowHandle(), Qt::Key_Tab);
-        QVERIFY(h.a->hasFocus() && h.window.findChild<FocusRing*>());
-        QTest::keyClick(h.window.windowHandle(), Qt::Key_Tab);
-        QVERIFY(h.b->hasFocus());
-        const QAccessible::State state = QAccessible::queryAccessibleInterface(h.b)->state();
-        QVERIFY(state.focusable && state.focused);
         auto* ring = h.window.findChild<FocusRing*>();
-        QVERIFY(ring && ring->isVisible() && ring->geometry().contains(h.b->geometry()));
+        QVERIFY(h.a->hasFocus() && ring);
+        QTest::keyClick(h.window.windowHandle(), Qt::Key_Tab);
+        QVERIFY(h.b->hasFocus() && ring->isVisible() && ring->geometry().contains(h.b->geometry()));
         h.press(outside);
         QVERIFY(!ring->isVisible());
     }

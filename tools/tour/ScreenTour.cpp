@@ -1,5 +1,6 @@
 #include "ScreenTour.h"
 
+#include "AppHarness.h"
 #include "Button.h"
 #include "Frame_Alarm.h"
 #include "Frame_Control.h"
@@ -9,7 +10,6 @@
 #include "Frame_MoveMent.h"
 #include "Frame_Scenario.h"
 #include "Frame_Sound.h"
-#include "TourWindow.h"
 
 #include <QDateTimeEdit>
 #include <QLineEdit>
@@ -22,7 +22,7 @@ namespace {
 const QPoint kPark(400, 20);
 } // namespace
 
-ScreenTour::ScreenTour(TourWindow& app, const QDir& folder) : m_app(app), m_folder(folder) {}
+ScreenTour::ScreenTour(AppHarness& app, const QDir& folder) : m_app(app), m_folder(folder) {}
 
 bool ScreenTour::fail(const QString& why) {
     m_error = why;
@@ -39,7 +39,7 @@ bool ScreenTour::stop(const QString& name) {
 
 bool ScreenTour::save(const QString& file) {
     // Quality 0: the smallest PNG; they go into the repository.
-    if (!m_app.appWindow()->grab().save(m_folder.filePath(file), "PNG", 0))
+    if (!m_app.window()->grab().save(m_folder.filePath(file), "PNG", 0))
         return fail(QStringLiteral("could not write ") + file);
     m_written << file;
     return true;
@@ -74,7 +74,8 @@ bool ScreenTour::mainMenu() {
 bool ScreenTour::ring(const QString& name, QWidget* control) {
     // By the keyboard only; the next click takes the ring away again.
     m_app.moveTo(kPark);
-    for (int tab = 0; tab < 30 && !(tab > 0 && control->hasFocus()); ++tab) m_app.typeKey(Qt::Key_Tab);
+    for (int tab = 0; tab < 30 && !(tab > 0 && control->hasFocus()); ++tab)
+        QTest::keyClick(m_app.handle(), Qt::Key_Tab);
     if (!control->hasFocus()) return fail(QStringLiteral("Tab never reached ") + name);
     QTest::qWait(50);
     ++m_rings; // outside the numbered stops

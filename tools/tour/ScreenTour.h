@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-class TourWindow;
+class AppHarness;
 class Button;
 class QDateTimeEdit;
 class QWidget;
@@ -13,7 +13,7 @@ class QWidget;
 // clicks, with one screenshot per stop.
 class ScreenTour {
 public:
-    ScreenTour(TourWindow& app, const QDir& folder);
+    ScreenTour(AppHarness& app, const QDir& folder);
 
     // Walks the whole tour; false (with the reason in error()) when a stop could not be reached.
     bool run();
@@ -35,7 +35,7 @@ private:
     bool save(const QString& file);
     bool fail(const QString& why);
 
-    TourWindow& m_app;
+    AppHarness& m_app;
     QDir m_folder;
     QStringList m_written;
     int m_rings = 0; // focus-ring shots among those written

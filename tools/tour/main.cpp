@@ -1,5 +1,5 @@
+#include "AppHarness.h"
 #include "ScreenTour.h"
-#include "TourWindow.h"
 
 #include <QApplication>
 
@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
     for (const QString& old : folder.entryList({QStringLiteral("[0-9][0-9]-*.png")}, QDir::Files))
         folder.remove(old);
 
-    TourWindow app;
+    AppHarness app;
     ScreenTour tour(app, folder);
     const bool ok = tour.run();
     for (const QString& file : tour.written()) std::printf("%s\n", qPrintable(folder.filePath(file)));
