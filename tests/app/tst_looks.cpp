@@ -9,6 +9,7 @@
 #include "Frame_MainMenu.h"
 #include "Frame_Sound.h"
 #include "NSColor.h"
+#include "Picture.h"
 #include "ScaledWindow.h"
 #include "SoundSetText.h"
 
@@ -93,23 +94,35 @@ private slots:
         QCOMPARE(after, before);
     }
 
-    // A picture drawn at another size than its file's, or through a scaled painter as in the
-    // scaled window, is smoothed: the same pixels as drawing it smoothly by hand.
-    void picturesNotDrawnOneToOneAreSmoothed_data() {
+    // A picture is drawn centred in its view at the size it was given, whatever its file's (29 x
+    // 28 here); drawn at another size, or through a scaled painter as in the scaled window, it is
+    // smoothed: the same pixels as drawing the file smoothly by hand. One not found, or asked for
+    // without its type or with another, shows nothing.
+    void picturesCentredAndSmoothedUnlessOneToOne_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("type");
         QTest::addColumn<QSize>("size");
         QTest::addColumn<qreal>("scale");
-        QTest::newRow("drawn larger") << QSize(58, 56) << 1.0;
-        QTest::newRow("window scaled") << QSize(29, 28) << 1.5;
+        QTest::addColumn<bool>("shown");
+        const QString q = QStringLiteral("but_question"), png = QStringLiteral("png");
+        QTest::newRow("drawn larger") << q << png << QSize(58, 56) << 1.0 << true;
+        QTest::newRow("window scaled") << q << png << QSize(29, 28) << 1.5 << true;
+        QTest::newRow("no such picture") << "no such picture" << png << QSize(29, 28) << 1.0 << false;
+        QTest::newRow("without its type") << q << QString() << QSize(29, 28) << 1.0 << false;
+        QTest::newRow("another type") << q << "jpg" << QSize(29, 28) << 1.0 << false;
     }
-    void picturesNotDrawnOneToOneAreSmoothed() {
+    void picturesCentredAndSmoothedUnlessOneToOne() {
+        QFETCH(QString, name);
+        QFETCH(QString, type);
         QFETCH(QSize, size);
         QFETCH(qreal, scale);
-        NSImageViewS view(MakeNSRect(0, 0, size.width(), size.height()));
-        view.InitImage(QStringLiteral("but_question"), QStringLiteral("png"), size.width(), size.height(),
-                       nullptr);
-        const QPixmap& file = view.imgDefault.pixmap(1.0);
+        QFETCH(bool, shown);
+        NSImageViewS view(MakeNSRect(0, 0, 100, 100));
+        view.InitImage(name, type, size.width(), size.height(), nullptr);
+        const QPixmap file =
+            Picture::Lookup(QStringLiteral("but_question"), QStringLiteral("png")).pixmap(1.0);
         QCOMPARE(file.size(), QSize(29, 28));
-        QImage drawn((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied), smooth = drawn;
+        QImage drawn(QSize(100, 100) * scale, QImage::Format_ARGB32_Premultiplied), smooth = drawn;
         for (QImage* image : {&drawn, &smooth}) {
             image->fill(Qt::transparent);
             QPainter painter(image);
@@ -117,8 +130,10 @@ private slots:
             painter.setRenderHint(QPainter::SmoothPixmapTransform, image == &smooth);
             if (image == &drawn)
                 view.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-            else
-                painter.drawPixmap(QRectF(QPointF(0, 0), QSizeF(size)), file, QRectF(file.rect()));
+            else if (shown)
+                painter.drawPixmap(
+                    QRectF(QPointF(50 - size.width() / 2.0, 50 - size.height() / 2.0), QSizeF(size)), file,
+                    QRectF(file.rect()));
         }
         QCOMPARE(drawn, smooth);
     }

@@ -1,6 +1,6 @@
-// The views every screen is made of: captions drawn as the text system draws them, pictures drawn
-// centred or not at all, the image button under the mouse, and what a screen reader sees of the
-// whole application.
+// The views every screen is made of: captions drawn as the text system draws them, the image
+// button under the mouse and the keyboard, and what a screen reader sees of the whole application.
+// (Pictures are drawn where only pixels tell: tst_looks.)
 
 #include "AppHarness.h"
 #include "Button.h"
@@ -10,9 +10,7 @@
 #include "ViewKit.h"
 
 #include <QAccessible>
-#include <QBitmap>
 #include <QDateTimeEdit>
-#include <QDebug>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTest>
@@ -28,10 +26,6 @@ QImage Render(QWidget* view) {
     image.fill(Qt::transparent);
     view->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     return image;
-}
-
-QRect InkBox(const QImage& image) {
-    return QRegion(QBitmap::fromImage(image.createAlphaMask())).boundingRect();
 }
 
 // A caption drawn the plain way: line by line, the first baseline one ascent below the origin,
@@ -217,22 +211,6 @@ private slots:
                                       : Reference(view.size(), text, NSColor::orangeColor(), loc, size);
         QCOMPARE(Render(&view), expected);
         QCOMPARE(Render(&view), expected); // painted again from what was kept
-    }
-
-    // A picture is drawn centred at the size it was given, whatever its file's (29 x 28 here); one
-    // not found, or asked for without its type or with another, shows nothing.
-    void picturesAreDrawnCentredAtTheirSizeOrNotAtAll() {
-        NSImageViewS view(MakeNSRect(0, 0, 100, 100));
-        view.InitImage(u"but_question"_s, u"png"_s, 60, 40, nullptr);
-        const QRect box = InkBox(Render(&view));
-        QVERIFY2(QRect(20, 30, 60, 40).contains(box) && box.width() > 45 && box.height() > 30,
-                 qPrintable(QDebug::toString(box)));
-        const QString q = u"but_question"_s;
-        for (const auto& [name, type] :
-             {std::pair{u"no such picture"_s, u"png"_s}, std::pair{q, QString()}, std::pair{q, u"jpg"_s}}) {
-            view.InitImage(name, type, 50, 50, nullptr);
-            QVERIFY(InkBox(Render(&view)).isEmpty());
-        }
     }
 
     // The image button: pictures per state, the action on release, and hover registrations that
