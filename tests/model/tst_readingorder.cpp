@@ -11,44 +11,35 @@ private slots:
         QTest::addColumn<QList<QRect>>("rects");
         QTest::addColumn<QList<int>>("runs");
         QTest::addColumn<QList<qsizetype>>("expected");
-        QTest::newRow("none") << QList<QRect>{} << QList<int>{} << QList<qsizetype>{};
-        QTest::newRow("one line of unequal controls, right to left")
-            << QList<QRect>{{791, 362, 111, 46}, {551, 374, 193, 20}, {95, 350, 326, 46}} << QList<int>{}
-            << QList<qsizetype>{2, 1, 0};
+        const auto row = [](const char* name, const QList<QRect>& rects, const QList<qsizetype>& expected,
+                            const QList<int>& runs = {}) {
+            QTest::newRow(name) << rects << runs << expected;
+        };
+        row("none", {}, {});
+        row("one line of unequal controls, right to left",
+            {{791, 362, 111, 46}, {551, 374, 193, 20}, {95, 350, 326, 46}}, {2, 1, 0});
         // The list rows overlap their neighbours by a few points; each still reads on its own.
-        QTest::newRow("overlapping rows") << QList<QRect>{{0, 36, 414, 39}, {0, 0, 414, 39}, {0, 72, 414, 39}}
-                                          << QList<int>{} << QList<qsizetype>{1, 0, 2};
-        QTest::newRow("a centre just past the first's bottom starts a line")
-            << QList<QRect>{{20, 0, 10, 40}, {0, 21, 10, 40}} << QList<int>{} << QList<qsizetype>{0, 1};
-        QTest::newRow("a tall control beside a short one joins only by its centre")
-            << QList<QRect>{{0, 0, 100, 20}, {110, 5, 100, 200}, {215, 8, 50, 10}} << QList<int>{}
-            << QList<qsizetype>{0, 2, 1};
-        QTest::newRow("the same place twice keeps the given order")
-            << QList<QRect>{{5, 5, 10, 10}, {5, 5, 10, 10}} << QList<int>{} << QList<qsizetype>{0, 1};
+        row("overlapping rows", {{0, 36, 414, 39}, {0, 0, 414, 39}, {0, 72, 414, 39}}, {1, 0, 2});
+        row("a centre just past the first's bottom starts a line", {{20, 0, 10, 40}, {0, 21, 10, 40}},
+            {0, 1});
+        row("a tall control beside a short one joins only by its centre",
+            {{0, 0, 100, 20}, {110, 5, 100, 200}, {215, 8, 50, 10}}, {0, 2, 1});
+        row("the same place twice keeps the given order", {{5, 5, 10, 10}, {5, 5, 10, 10}}, {0, 1});
         // A grid of buttons, then a tall panel right of it, apart by a gutter: the whole grid first,
         // row by row, though the panel starts higher.
-        QTest::newRow("a grid before the panel beside it") << QList<QRect>{{0, 20, 50, 20},
-                                                                           {60, 20, 50, 20},
-                                                                           {0, 40, 50, 20},
-                                                                           {60, 40, 50, 20},
-                                                                           {134, 0, 100, 100}}
-                                                           << QList<int>{} << QList<qsizetype>{0, 1, 2, 3, 4};
+        row("a grid before the panel beside it",
+            {{0, 20, 50, 20}, {60, 20, 50, 20}, {0, 40, 50, 20}, {60, 40, 50, 20}, {134, 0, 100, 100}},
+            {0, 1, 2, 3, 4});
         // Rows apart by the lead go first, columns then; rows closer than that are one group,
         // which a gutter parts into columns.
-        QTest::newRow("rows apart by the lead before columns")
-            << QList<QRect>{{0, 0, 50, 20}, {100, 0, 50, 20}, {0, 28, 50, 20}, {100, 28, 50, 20}}
-            << QList<int>{} << QList<qsizetype>{0, 1, 2, 3};
-        QTest::newRow("columns before rows closer than the lead")
-            << QList<QRect>{{0, 0, 50, 20}, {100, 0, 50, 20}, {0, 27, 50, 20}, {100, 27, 50, 20}}
-            << QList<int>{} << QList<qsizetype>{0, 2, 1, 3};
+        row("rows apart by the lead before columns",
+            {{0, 0, 50, 20}, {100, 0, 50, 20}, {0, 28, 50, 20}, {100, 28, 50, 20}}, {0, 1, 2, 3});
+        row("columns before rows closer than the lead",
+            {{0, 0, 50, 20}, {100, 0, 50, 20}, {0, 27, 50, 20}, {100, 27, 50, 20}}, {0, 2, 1, 3});
         // Four items whose second row runs right to left, and a control right of them.
-        QTest::newRow("a run in its own order, in its place")
-            << QList<QRect>{{100, 5, 10, 10},
-                            {0, 0, 10, 10},
-                            {20, 0, 10, 10},
-                            {20, 20, 10, 10},
-                            {0, 20, 10, 10}}
-            << QList<int>{-1, 0, 0, 0, 0} << QList<qsizetype>{1, 2, 3, 4, 0};
+        row("a run in its own order, in its place",
+            {{100, 5, 10, 10}, {0, 0, 10, 10}, {20, 0, 10, 10}, {20, 20, 10, 10}, {0, 20, 10, 10}},
+            {1, 2, 3, 4, 0}, {-1, 0, 0, 0, 0});
     }
     void order() {
         QFETCH(QList<QRect>, rects);
