@@ -15,6 +15,10 @@
 // and looked at is the compositor's output, X input to it reaching the app as Wayland input.
 class AppWindow {
 public:
+    // The X screen's size (the app on Wayland: in a compositor whose output fills the X screen and
+    // shows each window fullscreen).
+    explicit AppWindow(QSize screenSize = {1280, 1024}, bool wayland = false)
+        : m_wayland(wayland), m_screenSize(screenSize) {}
     ~AppWindow();
 
     // Starts the server, then the binary under strace where it can trace, with a home and
@@ -38,11 +42,6 @@ public:
     // Everything the app wrote to stderr so far.
     QString errorOutput();
 
-    // The X screen's size, set before start (default 1280 x 1024).
-    void setScreenSize(QSize size) { m_screenSize = size; }
-    // Set before start: the app on Wayland, in a compositor whose output fills the X screen and
-    // shows each window fullscreen.
-    void setWayland(bool wayland) { m_wayland = wayland; }
     // Why the Wayland compositor cannot run here; empty when it can.
     static QString WaylandMissing();
     // Where the window lies on the screen; null when that cannot be told.
@@ -72,5 +71,5 @@ private:
     QString m_windowId;
     QPoint m_pointer{-1, -1};
     QByteArray m_stderr;
-    QSize m_screenSize{1280, 1024};
+    QSize m_screenSize;
 };

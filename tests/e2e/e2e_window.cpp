@@ -129,11 +129,6 @@ constexpr QRect SoundButtons[] = {{100, 338, 111, 46}, {221, 338, 111, 46}, {340
 constexpr QRect TimelineSlots[] = {{564, 329, 111, 46}, {685, 329, 111, 46}, {805, 329, 111, 46}};
 } // namespace At
 
-// Part of a frame: x and y from its left and top, w wide and h high (clear of the captions).
-QRect Part(const QRect& frame, int x, int y, int w, int h) {
-    return {frame.x() + x, frame.y() + y, w, h};
-}
-
 // The band of an item or sound button below its caption, and the part of a menu button clear of it.
 constexpr QRect kBelowCaption(14, 32, 97, 14), kMenuPart(0, 0, 250, 48);
 
@@ -240,9 +235,9 @@ private slots:
 
         const QImage emptyField = shot();
         QVERIFY(app.click(At::NameField.center()) && app.type("Robo"));
-        QTRY_VERIFY_WITH_TIMEOUT(Scene::Difference(shot(), emptyField, Part(At::NameField, 0, 0, 60, 20)) >=
-                                     3,
-                                 60000); // the name field shows the text
+        QTRY_VERIFY_WITH_TIMEOUT(
+            Scene::Difference(shot(), emptyField, QRect(At::NameField.topLeft(), QSize(60, 20))) >= 3,
+            60000); // the name field shows the text
         QVERIFY(app.click(At::CreateNamed.center()));
         // Each editor screen lights its own tab.
         WAIT_FOR("movement screen", Buttons(kEditor, {kMovementTab}));
@@ -316,9 +311,7 @@ private slots:
             if (qEnvironmentVariableIntValue("ROBOT_E2E_REQUIRED") != 0) QFAIL(qPrintable(missing));
             QSKIP(qPrintable(missing));
         }
-        m_app = std::make_unique<AppWindow>();
-        m_app->setScreenSize({1024, 600});
-        m_app->setWayland(wayland);
+        m_app = std::make_unique<AppWindow>(QSize(1024, 600), wayland);
         CHECK(m_app->start(QStringLiteral(ROBOT_E2E_APP), &m_failure));
         const QRect window = m_app->geometry();
         QCOMPARE(window.height(), 600); // as large as fits
