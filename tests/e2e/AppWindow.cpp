@@ -51,13 +51,6 @@ AppWindow::~AppWindow() {
     }
 }
 
-QString AppWindow::WaylandMissing() {
-    // Without Qt's Wayland platform (qt6-wayland) the app says so on stderr, which a failure shows.
-    return QStandardPaths::findExecutable("weston").isEmpty()
-               ? "weston is not on PATH (Debian package weston)"
-               : QString();
-}
-
 bool AppWindow::startCompositor(QProcessEnvironment* env, QString* why) {
     // Kiosk shell: every window fullscreen on the one output, so its place is known.
     const QString socket = "robot-wayland", runtime = env->value("XDG_RUNTIME_DIR");

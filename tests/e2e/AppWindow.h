@@ -42,8 +42,6 @@ public:
     // Everything the app wrote to stderr so far.
     QString errorOutput();
 
-    // Why the Wayland compositor cannot run here; empty when it can.
-    static QString WaylandMissing();
     // Where the window lies on the screen; null when that cannot be told.
     QRect geometry() const;
 

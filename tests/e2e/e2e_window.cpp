@@ -224,10 +224,6 @@ private slots:
         AppWindow& app = *m_app;
         CHECK(menuReady("menu"));
 
-        // Pointed at, "Program scenario" lights up.
-        QVERIFY(app.moveTo(At::Program.center()));
-        WAIT_FOR("program pointed at",
-                 Buttons(kMenu, {{At::Program, "command_focused_menus", "command_normal_menus", kMenuPart}}));
         QVERIFY(app.click(At::Program.center()));
         WAIT_FOR("scenario screen", Buttons(kCommon, {kScenarioShown}));
         QVERIFY(app.click(At::CreateScenario.center()));
@@ -307,9 +303,10 @@ private slots:
     // holds. On Wayland the same, in a compositor showing the window fullscreen on a low output.
     void wholeOnALowScreen() {
         QFETCH(bool, wayland);
-        if (const QString missing = wayland ? AppWindow::WaylandMissing() : QString(); !missing.isEmpty()) {
-            if (qEnvironmentVariableIntValue("ROBOT_E2E_REQUIRED") != 0) QFAIL(qPrintable(missing));
-            QSKIP(qPrintable(missing));
+        // Without Qt's Wayland platform (qt6-wayland) the app says so on stderr, which a failure shows.
+        if (wayland && QStandardPaths::findExecutable("weston").isEmpty()) {
+            if (qEnvironmentVariableIntValue("ROBOT_E2E_REQUIRED") != 0) QFAIL("weston is not on PATH");
+            QSKIP("weston is not on PATH (Debian package weston)");
         }
         m_app = std::make_unique<AppWindow>(QSize(1024, 600), wayland);
         CHECK(m_app->start(QStringLiteral(ROBOT_E2E_APP), &m_failure));
