@@ -35,10 +35,6 @@ QStringList AppInvariants(const Frame_Control* root) {
         return holds;
     };
     const auto shown = [](const QWidget* w) { return w && !w->isHidden(); };
-    // Direct child widgets, the only ones a view lays out itself.
-    const auto children = [](const QWidget* view) {
-        return view->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size();
-    };
     // A timeline view shows at its place while that lies on view, and is hidden otherwise.
     const auto Placed = [](const NSViewS* view, const NSRect& place) {
         const bool onView = place.y < kSoundContentViewHeight && place.y + place.height > 0;
@@ -58,8 +54,10 @@ QStringList AppInvariants(const Frame_Control* root) {
     // every one off view is hidden.
     const SOUNDSETCONTENT& c = root->frmSound()->SoundContent;
     const SoundTimeline& t = root->frmSound()->Timeline;
-    bool inStep = t.iItemNum() >= 0 && t.iItemNum() <= kSoundContentItemMax &&
-                  children(c.frmSoundContent) == 3 * t.iItemNum();
+    // Three views an item, direct children of the timeline's view.
+    bool inStep =
+        t.iItemNum() >= 0 && t.iItemNum() <= kSoundContentItemMax &&
+        c.frmSoundContent->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size() == 3 * t.iItemNum();
     for (qint32 i = 0; i < kSoundContentItemMax && inStep; ++i) {
         const bool used = i < t.iItemNum();
         inStep = (c.Item.BtnButton[i] != nullptr) == used && (c.Item.strNumber[i] != nullptr) == used &&
