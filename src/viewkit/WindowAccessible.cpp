@@ -6,12 +6,6 @@
 
 WindowAccessible::WindowAccessible(QWidget* window) : ViewAccessible(window, QAccessible::Window) {}
 
-QWidget* WindowAccessible::ShownIn(const QWidget* window) {
-    const QGraphicsProxyWidget* proxy = window ? window->graphicsProxyWidget() : nullptr;
-    if (!proxy || !proxy->scene() || proxy->scene()->views().isEmpty()) return nullptr;
-    return proxy->scene()->views().first();
-}
-
 QList<QWidget*> WindowAccessible::held() const {
     QList<QWidget*> windows;
     const auto* view = qobject_cast<const QGraphicsView*>(widget());

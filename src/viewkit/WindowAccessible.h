@@ -16,9 +16,6 @@ public:
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
 
-    // The view that shows `window` scaled; null when it is shown as itself.
-    static QWidget* ShownIn(const QWidget* window);
-
 private:
     // The windows this view shows scaled; empty for any other window.
     QList<QWidget*> held() const;

@@ -14,8 +14,10 @@ import tempfile
 import time
 
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
-# "Program scenario" in the window's 1024 x 768 points, as the main menu's layout table places it.
+# In the window's 1024 x 768 points, as the layout tables place them: "Program scenario" on the main
+# menu, and the scenario name field on the scenario screen.
 PROGRAM = (607, 172, 250, 93)
+NAME = (551, 374, 193, 20)
 
 
 def missing():
@@ -165,21 +167,30 @@ def case_route(session):
 
 
 def case_extents(session, scale):
-    # One frame, "Program scenario" reported where it is drawn (within a pixel and a half), and found
-    # there by what is under a point (a reader's mouse review, a magnifier).
+    # One frame; "Program scenario" and the name field (a field of Qt's kind) reported where they are
+    # drawn (within a pixel and a half), and the button found there by what is under a point (a
+    # reader's mouse review, a magnifier).
     import pyatspi
     app = main_window(session)
     frames = [w for w in app if w is not None and w.getRoleName() == "frame"]
     assert [f.name for f in frames] == ["Robot Companion"], f"top-level frames: {[f.name for f in frames]}"
     x, y, width, height = session.window()
     factor = scale or width / 1024
-    drawn = (x + PROGRAM[0] * factor, y + PROGRAM[1] * factor, PROGRAM[2] * factor, PROGRAM[3] * factor)
-    e = get(app, "push button", "Program scenario").queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    assert all(abs(r - d) <= 1.5 for r, d in zip((e.x, e.y, e.width, e.height), drawn)), \
-        f"reported at {(e.x, e.y, e.width, e.height)}, drawn at {tuple(round(v) for v in drawn)}"
-    centre = (round(drawn[0] + drawn[2] / 2), round(drawn[1] + drawn[3] / 2))
+
+    def placed(accessible, place):
+        drawn = (x + place[0] * factor, y + place[1] * factor, place[2] * factor, place[3] * factor)
+        e = accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        reported = (e.x, e.y, e.width, e.height)
+        assert all(abs(r - d) <= 1.5 for r, d in zip(reported, drawn)), \
+            f"{accessible.name} reported at {reported}, drawn at {tuple(round(v) for v in drawn)}"
+        return round(drawn[0] + drawn[2] / 2), round(drawn[1] + drawn[3] / 2)
+
+    centre = placed(get(app, "push button", "Program scenario"), PROGRAM)
     hit = frames[0].queryComponent().getAccessibleAtPoint(*centre, pyatspi.DESKTOP_COORDS)
     assert hit is not None and hit.name == "Program scenario", f"at its centre: {hit and hit.name}"
+    press(app, "push button", "Program scenario")
+    press(app, "push button", "Create a new scenario")
+    placed(get(app, "text", "Scenario name"), NAME)
 
 
 # name: the X screen's size, the app's environment, the check
