@@ -37,11 +37,12 @@ class Session:
         self.processes = []
         os.environ.update(XDG_RUNTIME_DIR=self.folder, HOME=self.folder)
         # The server says its number before it takes clients, and may lose its display to another
-        # starting at the same time: it counts once the tools can talk to it.
+        # starting at the same time: it counts once the tools can talk to it. -noreset: else it resets
+        # when that first client leaves, and turns the app away.
         for _ in range(5):
             read, write = os.pipe()
             server = self.start("Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten",
-                                "tcp", pass_fds=(write,))
+                                "tcp", "-noreset", pass_fds=(write,))
             os.close(write)
             with os.fdopen(read) as number:
                 os.environ["DISPLAY"] = ":" + number.readline().strip()
