@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <ctime>
 
@@ -74,6 +75,17 @@ long StatusKiB(const char* field) {
     }
     std::fclose(status);
     return kib;
+}
+
+Options::Options(int argc, char** argv) {
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (std::strcmp(argv[i], "--only") == 0) only = argv[i + 1];
+        if (std::strcmp(argv[i], "--samples") == 0) samples = std::atoi(argv[i + 1]);
+    }
+}
+
+bool Options::wanted(const char* name) const {
+    return !only || std::strcmp(only, name) == 0;
 }
 
 } // namespace Bench

@@ -43,4 +43,15 @@ private:
 // set so far; "RssAnon", "RssFile": what is resident now); 0 where the system does not say.
 long StatusKiB(const char* field);
 
+// The options every tick benchmark takes: "--only NAME" runs one measure, "--samples N" overrides
+// each measure's own sample count.
+struct Options {
+    Options(int argc, char** argv);
+    bool wanted(const char* name) const;
+    int samplesOr(int fallback) const { return samples > 0 ? samples : fallback; }
+
+    const char* only = nullptr;
+    int samples = 0;
+};
+
 } // namespace Bench

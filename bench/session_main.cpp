@@ -190,17 +190,12 @@ void Print(const Result& r) {
 int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication application(argc, argv);
-    const char* only = nullptr;
-    int samples = 0;
-    for (int i = 1; i + 1 < argc; ++i) {
-        if (std::strcmp(argv[i], "--only") == 0) only = argv[i + 1];
-        if (std::strcmp(argv[i], "--samples") == 0) samples = std::atoi(argv[i + 1]);
-    }
-    auto wanted = [&](const char* name) { return !only || std::strcmp(only, name) == 0; };
+    const Bench::Options options(argc, argv);
+    auto wanted = [&](const char* name) { return options.wanted(name); };
 
     std::printf("The user's own work: median CPU time per sample (process CPU, offscreen platform)\n\n");
     std::printf("| Measure | Samples | Floor | Application | Ratio |\n|---|---|---|---|---|\n");
-    if (wanted("scroll")) Print(ScrollCost(samples > 0 ? samples : 40));
-    if (wanted("hover")) Print(HoverCost(samples > 0 ? samples : 400));
+    if (wanted("scroll")) Print(ScrollCost(options.samplesOr(40)));
+    if (wanted("hover")) Print(HoverCost(options.samplesOr(400)));
     return 0;
 }

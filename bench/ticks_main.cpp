@@ -544,22 +544,17 @@ void Print(const Result& r) {
 int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication application(argc, argv);
-    const char* only = nullptr;
-    int samples = 0;
-    for (int i = 1; i + 1 < argc; ++i) {
-        if (std::strcmp(argv[i], "--only") == 0) only = argv[i + 1];
-        if (std::strcmp(argv[i], "--samples") == 0) samples = std::atoi(argv[i + 1]);
-    }
-    auto wanted = [&](const char* name) { return !only || std::strcmp(only, name) == 0; };
+    const Bench::Options options(argc, argv);
+    auto wanted = [&](const char* name) { return options.wanted(name); };
 
     std::vector<Result> results;
-    if (wanted("robot")) results.push_back(RobotSlideFrames(samples > 0 ? samples : 400));
+    if (wanted("robot")) results.push_back(RobotSlideFrames(options.samplesOr(400)));
     if (wanted("timeline"))
-        for (const Result& r : TimelineScroll(samples > 0 ? samples : 230)) results.push_back(r);
-    if (wanted("path")) results.push_back(PathDrawing(samples > 0 ? samples : 15));
+        for (const Result& r : TimelineScroll(options.samplesOr(230))) results.push_back(r);
+    if (wanted("path")) results.push_back(PathDrawing(options.samplesOr(15)));
     if (wanted("scaled-robot") || wanted("scaled-timeline"))
-        for (const Result& r : ScaledWindowTicks(samples > 0 ? samples : 230, wanted("scaled-robot"),
-                                                 wanted("scaled-timeline")))
+        for (const Result& r :
+             ScaledWindowTicks(options.samplesOr(230), wanted("scaled-robot"), wanted("scaled-timeline")))
             results.push_back(r);
 
     std::printf("Ticks and drawing: median CPU time per sample (process CPU, offscreen platform)\n\n");
