@@ -300,7 +300,9 @@ private slots:
 
     // On a screen too low for the window it shows whole, scaled down; pointing and clicking land
     // where the buttons are seen, Back brings the menu again, and the keys reach the window the view
-    // holds. On Wayland the same, in a compositor showing the window fullscreen on a low output.
+    // holds: Tab and Space, and in X Return that creates and sets and Escape that goes back. On
+    // Wayland the same pointing, clicking, Tab and Space, in a compositor showing the window
+    // fullscreen on a low output.
     void wholeOnALowScreen() {
         QFETCH(bool, wayland);
         // Without Qt's Wayland platform (qt6-wayland) the app says so on stderr, which a failure shows.
@@ -341,6 +343,25 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(Scene::Difference(shot(), before, ringTop) > 20 * scale, 10000);
         QVERIFY(m_app->key("space"));
         WAIT_FOR("scenario screen by keys", Buttons(kCommon, {kScenarioShown}));
+        if (wayland) return;
+        // Return creates and Escape goes back: the focus starts at "Create a new scenario", which
+        // opens the name field with the focus in it.
+        QVERIFY(m_app->key("space") && m_app->type("Robo") && m_app->key("Return"));
+        WAIT_FOR("movement screen by keys", Buttons(kEditor, {kMovementTab}));
+        QVERIFY(m_app->key("Escape"));
+        WAIT_FOR("menu by escape", menu("command_normal_menus", "command_focused_menus"));
+        // Return sets: the alarm (a Tab past "Program scenario"), the birthday page, On, then Tab
+        // past Off to the date, whose editor (its Set where the scenario's Create stands) opens with
+        // the focus in the picker.
+        const Look setShown{"Set", QRect(75, 0, 36, 46).translated(At::CreateNamed.topLeft()),
+                            Scene(kCommon).button(kBtn1, At::CreateNamed), Scene(kCommon)};
+        for (const char* key : {"Tab", "space", "space", "space", "Tab", "Tab", "space"})
+            QVERIFY(m_app->key(key));
+        WAIT_FOR("date editor by keys", {setShown});
+        QVERIFY(m_app->key("Return"));
+        WAIT_FOR("date set by return", {{"no Set", setShown.region, setShown.other, setShown.expected}});
+        QVERIFY(m_app->key("Escape"));
+        WAIT_FOR("choose page by escape", Buttons(kCommon, {kStatus}));
     }
 };
 
