@@ -51,33 +51,66 @@ void openReader(QImageReader& reader, const QString& path, const QString& type) 
     }
 }
 
-// The decoded files, by resource path: every view showing a file shares one copy of its pixels.
-// Qt's own pixmap cache would not do: it evicts beyond 10 MiB and takes nothing larger, so the
+// The decoded files, by resource path, and their scaled copies, by path and size: every view
+// showing a file shares one copy of its pixels, and one of each size it is scaled to. Qt's own
+// pixmap cache would not do: it evicts beyond 10 MiB and takes nothing larger, so the
 // full-window backgrounds (12 MiB each on a sharp screen) would be decoded once per view.
-QHash<QString, QPixmap>& decodedFiles() {
-    static QHash<QString, QPixmap>* files = [] {
+QHash<QString, QPixmap>& sharedPixels() {
+    static QHash<QString, QPixmap>* pixels = [] {
         // Pixels are released with the application, while the windowing system is still there.
-        qAddPostRoutine([] { decodedFiles().clear(); });
+        qAddPostRoutine([] { sharedPixels().clear(); });
         return new QHash<QString, QPixmap>;
     }();
-    return *files;
+    return *pixels;
+}
+
+template <typename Make> QPixmap share(const QString& key, Make make) {
+    QHash<QString, QPixmap>& pixels = sharedPixels();
+    if (const auto found = pixels.constFind(key); found != pixels.cend()) return *found;
+    const QPixmap pixmap = make();
+    if (pixmap.isNull()) return {};
+    // Pixels that no picture holds any more (a button given other pictures, a copy for a size
+    // the window no longer has) are let go.
+    for (auto it = pixels.begin(); it != pixels.end();)
+        it = it->isDetached() ? pixels.erase(it) : std::next(it);
+    pixels.insert(key, pixmap);
+    return pixmap;
 }
 
 QPixmap loadShared(const QString& path, const QString& type, qreal devicePixelRatio) {
-    QHash<QString, QPixmap>& files = decodedFiles();
-    if (const auto found = files.constFind(path); found != files.cend()) return *found;
-    QImageReader reader;
-    openReader(reader, path, type);
-    QImage image = reader.read();
-    if (image.isNull()) return {};
-    // Set before sharing: setting it on a shared copy would copy the pixels.
-    image.setDevicePixelRatio(devicePixelRatio);
-    // Converted in place to the screen's format: no second copy of the pixels at any moment.
-    const QPixmap pixmap = QPixmap::fromImage(std::move(image));
-    // A file that no picture holds any more (a button given other pictures) is let go.
-    for (auto it = files.begin(); it != files.end();) it = it->isDetached() ? files.erase(it) : std::next(it);
-    files.insert(path, pixmap);
-    return pixmap;
+    return share(path, [&] {
+        QImageReader reader;
+        openReader(reader, path, type);
+        QImage image = reader.read();
+        if (image.isNull()) return QPixmap();
+        // Set before sharing: setting it on a shared copy would copy the pixels.
+        image.setDevicePixelRatio(devicePixelRatio);
+        // Converted in place to the screen's format: no second copy of the pixels at any moment.
+        return QPixmap::fromImage(std::move(image));
+    });
+}
+
+// The decoded file smoothly scaled to size device pixels, as a painter draws it.
+QPixmap scaledShared(const QPixmap& file, const QSize& size) {
+    const QString key =
+        QStringLiteral("scaled %1 %2x%3").arg(file.cacheKey()).arg(size.width()).arg(size.height());
+    return share(key, [&] {
+        QImage scaled(size,
+                      file.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+        scaled.fill(Qt::transparent);
+        QPainter painter(&scaled);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+        painter.drawPixmap(QRectF(QPointF(0, 0), QSizeF(size)), file, QRectF(file.rect()));
+        painter.end();
+        return QPixmap::fromImage(std::move(scaled));
+    });
+}
+
+// The whole device pixels a rectangle of device coordinates covers, edges rounded, so that
+// pictures side by side still meet.
+QRect devicePixels(const QRectF& onDevice) {
+    const int left = qRound(onDevice.left()), top = qRound(onDevice.top());
+    return QRect(left, top, qRound(onDevice.right()) - left, qRound(onDevice.bottom()) - top);
 }
 
 } // namespace
@@ -127,10 +160,32 @@ void Picture::draw(QPainter& painter, const QRectF& target, qreal devicePixelRat
     if (isNull() || target.isEmpty()) return;
     const QPixmap& pm = pixmap(devicePixelRatio);
     if (pm.isNull()) return;
-    // Smooth unless each of the picture's pixels lands on one device pixel: it is drawn at
-    // another size, or its pixels are not the device's (the sharp file on a screen of ratio
-    // 1.5), or the whole window is shown scaled. The device transform holds all three.
-    if (painter.deviceTransform().mapRect(target).size() != QSizeF(pm.size()))
+    const QRectF source(QPointF(0, 0), QSizeF(pm.size()));
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF onDevice = toDevice.mapRect(target);
+    // Each of the picture's pixels lands on one device pixel: copied as it is.
+    if (onDevice.size() == source.size()) {
+        painter.drawPixmap(target, pm, source);
+        return;
+    }
+    // Otherwise it is smoothed: it is drawn at another size, or its pixels are not the device's
+    // (the sharp file on a screen of ratio 1.5), or the whole window is shown scaled. Turned or
+    // mirrored, it is scaled as it is drawn.
+    if (toDevice.type() > QTransform::TxScale || toDevice.m11() <= 0 || toDevice.m22() <= 0) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    painter.drawPixmap(target, pm, QRectF(QPointF(0, 0), QSizeF(pm.size())));
+        painter.drawPixmap(target, pm, source);
+        return;
+    }
+    // Scaled once to the device pixels it covers and then copied there on every paint: a scaled
+    // window repaints its pictures as cheaply as the window at 1:1 does.
+    const QRect pixels = devicePixels(onDevice);
+    if (pixels.isEmpty()) return;
+    if (m_scaled.size() != pixels.size() || m_scaledFrom != pm.cacheKey()) {
+        m_scaled = scaledShared(pm, pixels.size());
+        m_scaledFrom = pm.cacheKey();
+    }
+    painter.save();
+    painter.setWorldTransform(toDevice.inverted(), true); // now in device pixels
+    painter.drawPixmap(pixels.topLeft(), m_scaled);
+    painter.restore();
 }

@@ -41,4 +41,7 @@ private:
     mutable QPixmap m_pixmap;
     mutable bool m_loaded = false;
     mutable qreal m_loadedRatio = 1.0;
+    // The decoded pixels scaled to the device pixels they last covered, and which pixels those were.
+    mutable QPixmap m_scaled;
+    mutable qint64 m_scaledFrom = 0;
 };

@@ -1,6 +1,6 @@
 // What only pixels show, one check each: a menu caption's colour once the pointer has left, a
-// picture that is not drawn 1:1, the scaled window's bands as it is resized, and every caption
-// inside its view.
+// picture that is not drawn 1:1, pictures side by side when scaled, the scaled window's bands as it is
+// resized, and every caption inside its view.
 
 #include "AppHarness.h"
 #include "Button.h"
@@ -106,7 +106,7 @@ private slots:
         QTest::addColumn<bool>("shown");
         const QString q = QStringLiteral("but_question"), png = QStringLiteral("png");
         QTest::newRow("drawn larger") << q << png << QSize(58, 56) << 1.0 << true;
-        QTest::newRow("window scaled") << q << png << QSize(29, 28) << 1.5 << true;
+        QTest::newRow("window scaled") << q << png << QSize(29, 28) << 2.0 << true;
         QTest::newRow("no such picture") << "no such picture" << png << QSize(29, 28) << 1.0 << false;
         QTest::newRow("without its type") << q << QString() << QSize(29, 28) << 1.0 << false;
         QTest::newRow("another type") << q << "jpg" << QSize(29, 28) << 1.0 << false;
@@ -136,6 +136,40 @@ private slots:
                     QRectF(file.rect()));
         }
         QCOMPARE(drawn, smooth);
+    }
+
+    // Drawn scaled, pictures side by side meet: no seam of the colour behind them shows between
+    // two, whatever the scale (the scaled window's, a screen of ratio 1.5).
+    void scaledPicturesSideBySideMeet_data() {
+        QTest::addColumn<qreal>("scale");
+        QTest::newRow("1024 x 600 screen") << 600.0 / 768.0;
+        QTest::newRow("ratio 1.5") << 1.5;
+        QTest::newRow("one third") << 1.0 / 3.0;
+    }
+    void scaledPicturesSideBySideMeet() {
+        QFETCH(qreal, scale);
+        QWidget row;
+        row.resize(100, 60);
+        for (int i = 0; i < 3; ++i) {
+            // A background given a small size: opaque in every pixel.
+            auto* view = new NSImageViewS(MakeNSRect(10 + 29 * i, 10, 29, 28));
+            NSViewS::addSubview(&row, view);
+            view->InitImage(QStringLiteral("mainpage_bg"), QStringLiteral("png"), 29, 28, nullptr);
+        }
+        QImage drawn((QSizeF(row.size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.scale(scale, scale);
+        row.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+        painter.end();
+        // Every pixel wholly inside the three pictures, one in from their outer edges.
+        const QRect inside =
+            QRectF(10 * scale, 10 * scale, 87 * scale, 28 * scale).toAlignedRect().adjusted(1, 1, -1, -1);
+        for (int y = inside.top(); y <= inside.bottom(); ++y)
+            for (int x = inside.left(); x <= inside.right(); ++x)
+                if (qAlpha(drawn.pixel(x, y)) != 255)
+                    QFAIL(qPrintable(QStringLiteral("a seam at %1,%2").arg(x).arg(y)));
     }
 
     // The content is scaled to fit and centred; bands of one colour fill the rest, on both sides
