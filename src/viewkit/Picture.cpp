@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QResource>
 #include <QSet>
+#include <QtMath>
 
 namespace {
 
@@ -90,10 +91,9 @@ QPixmap loadShared(const QString& path, const QString& type, qreal devicePixelRa
     });
 }
 
-// The decoded file smoothly scaled to size device pixels, as a painter draws it.
-QPixmap scaledShared(const QPixmap& file, const QSize& size) {
-    const QString key =
-        QStringLiteral("scaled %1 %2x%3").arg(file.cacheKey()).arg(size.width()).arg(size.height());
+// The decoded file at path smoothly scaled to size device pixels, as a painter draws it.
+QPixmap scaledShared(const QString& path, const QPixmap& file, const QSize& size) {
+    const QString key = path + QStringLiteral(" at %1x%2").arg(size.width()).arg(size.height());
     return share(key, [&] {
         QImage scaled(size,
                       file.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
@@ -106,11 +106,28 @@ QPixmap scaledShared(const QPixmap& file, const QSize& size) {
     });
 }
 
-// The whole device pixels a rectangle of device coordinates covers, edges rounded, so that
-// pictures side by side still meet.
+// The device pixels a picture scaled ahead covers: from its rounded left and top edges, and
+// whole pixels enough to reach the far edges wherever those fall, so that pictures side by side
+// meet and a moving picture keeps one size.
 QRect devicePixels(const QRectF& onDevice) {
-    const int left = qRound(onDevice.left()), top = qRound(onDevice.top());
-    return QRect(left, top, qRound(onDevice.right()) - left, qRound(onDevice.bottom()) - top);
+    constexpr qreal kSlack = 1.0 / 64; // what arithmetic may add to a whole number of pixels
+    return QRect(qRound(onDevice.left()), qRound(onDevice.top()), qCeil(onDevice.width() - kSlack),
+                 qCeil(onDevice.height() - kSlack));
+}
+
+// Lets go of the shared pixels at key if no picture holds them any more.
+void releaseShared(const QString& key) {
+    QHash<QString, QPixmap>& pixels = sharedPixels();
+    if (const auto found = pixels.find(key); found != pixels.end() && found->isDetached())
+        pixels.erase(found);
+}
+
+// Draws pixels at a place given in device pixels, one pixel of the pixmap on each.
+void drawOnDevice(QPainter& painter, const QTransform& toDevice, const QPoint& at, const QPixmap& pixels) {
+    painter.save();
+    painter.setWorldTransform(toDevice.inverted(), true);
+    painter.drawPixmap(at, pixels);
+    painter.restore();
 }
 
 } // namespace
@@ -129,7 +146,7 @@ Picture Picture::Lookup(const QString& name, const QString& type) {
 
 QSizeF Picture::naturalSize() const {
     if (isNull()) return {};
-    if (m_loaded) return m_pixmap.deviceIndependentSize();
+    if (m_natural.isValid()) return m_natural;
     QImageReader reader;
     openReader(reader, m_path, m_type);
     return reader.size(); // reads the header only
@@ -145,47 +162,58 @@ const QPixmap& Picture::pixmap(qreal devicePixelRatio) const {
     if (m_loaded && m_loadedRatio == wanted) return m_pixmap;
     m_loaded = true;
     m_loadedRatio = wanted;
+    m_pixmap = QPixmap();
     if (wanted > 1.0) {
-        const QString sharp = resourceFile(m_name, QStringLiteral("@2x"), m_type);
-        if (shipped(sharp)) {
-            m_pixmap = loadShared(kFolder + sharp, m_type, 2.0);
-            if (!m_pixmap.isNull()) return m_pixmap;
+        const QString sharp = kFolder + resourceFile(m_name, QStringLiteral("@2x"), m_type);
+        if (shipped(sharp.mid(kFolder.size()))) {
+            m_pixmap = loadShared(sharp, m_type, 2.0);
+            m_file = sharp;
         }
     }
-    m_pixmap = loadShared(m_path, m_type, 1.0);
+    if (m_pixmap.isNull()) {
+        m_pixmap = loadShared(m_path, m_type, 1.0);
+        m_file = m_path;
+    }
+    if (!m_pixmap.isNull()) m_natural = m_pixmap.deviceIndependentSize();
     return m_pixmap;
 }
 
 void Picture::draw(QPainter& painter, const QRectF& target, qreal devicePixelRatio) const {
     if (isNull() || target.isEmpty()) return;
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF onDevice = toDevice.mapRect(target);
+    // Turned or mirrored, a picture is scaled as it is drawn; otherwise it can be scaled ahead.
+    const bool upright = toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 && toDevice.m22() > 0;
+    const QRect pixels = devicePixels(onDevice);
+    const qreal ratio = devicePixelRatio > 1.0 ? 2.0 : 1.0;
+    if (upright && !m_scaled.isNull() && m_scaledRatio == ratio && m_scaled.size() == pixels.size()) {
+        drawOnDevice(painter, toDevice, pixels.topLeft(), m_scaled);
+        return;
+    }
     const QPixmap& pm = pixmap(devicePixelRatio);
     if (pm.isNull()) return;
     const QRectF source(QPointF(0, 0), QSizeF(pm.size()));
-    const QTransform toDevice = painter.deviceTransform();
-    const QRectF onDevice = toDevice.mapRect(target);
-    // Each of the picture's pixels lands on one device pixel: copied as it is.
-    if (onDevice.size() == source.size()) {
+    // Each of the picture's pixels lands on one device pixel: copied as it is. Turned or mirrored,
+    // it is smoothed as it is drawn.
+    const bool oneToOne = onDevice.size() == source.size();
+    if (oneToOne || !upright) {
+        m_scaled = QPixmap();
+        if (!oneToOne) painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
         painter.drawPixmap(target, pm, source);
         return;
     }
-    // Otherwise it is smoothed: it is drawn at another size, or its pixels are not the device's
-    // (the sharp file on a screen of ratio 1.5), or the whole window is shown scaled. Turned or
-    // mirrored, it is scaled as it is drawn.
-    if (toDevice.type() > QTransform::TxScale || toDevice.m11() <= 0 || toDevice.m22() <= 0) {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
-        painter.drawPixmap(target, pm, source);
-        return;
-    }
-    // Scaled once to the device pixels it covers and then copied there on every paint: a scaled
-    // window repaints its pictures as cheaply as the window at 1:1 does.
-    const QRect pixels = devicePixels(onDevice);
+    // Drawn at another size (the whole window shown scaled, the sharp file on a screen of ratio
+    // 1.5, a picture given another size), it is scaled smoothly once to the device pixels it
+    // covers, and each paint copies them: a scaled window repaints its pictures as cheaply as
+    // the window at 1:1 does.
     if (pixels.isEmpty()) return;
-    if (m_scaled.size() != pixels.size() || m_scaledFrom != pm.cacheKey()) {
-        m_scaled = scaledShared(pm, pixels.size());
-        m_scaledFrom = pm.cacheKey();
-    }
-    painter.save();
-    painter.setWorldTransform(toDevice.inverted(), true); // now in device pixels
-    painter.drawPixmap(pixels.topLeft(), m_scaled);
-    painter.restore();
+    m_scaled = QPixmap(); // a copy for another size goes, unless another picture holds it
+    m_scaled = scaledShared(m_file, pm, pixels.size());
+    m_scaledRatio = ratio;
+    // The copy is all the picture draws from now on: it lets go of the decoded file, whose pixels
+    // go too once no other picture holds them.
+    m_pixmap = QPixmap();
+    m_loaded = false;
+    releaseShared(m_file);
+    drawOnDevice(painter, toDevice, pixels.topLeft(), m_scaled);
 }

@@ -30,7 +30,8 @@ public:
     void draw(QPainter& painter, const QRectF& target, qreal devicePixelRatio) const;
 
     // The decoded pixels drawn at that device pixel ratio (the sharper file above 1), read on
-    // first use; every picture of the same file shares one copy. Null for a null picture.
+    // first use (again, if the picture has since kept only a scaled copy); every picture of the
+    // same file shares one copy. Null for a null picture.
     const QPixmap& pixmap(qreal devicePixelRatio) const;
 
 private:
@@ -41,7 +42,10 @@ private:
     mutable QPixmap m_pixmap;
     mutable bool m_loaded = false;
     mutable qreal m_loadedRatio = 1.0;
-    // The decoded pixels scaled to the device pixels they last covered, and which pixels those were.
+    mutable QString m_file;   // the resource decoded last: the sharp file or the plain one
+    mutable QSizeF m_natural; // known once decoded, and kept when the pixels are let go
+    // The pixels scaled to the device pixels the picture last covered, for a device pixel ratio:
+    // a picture drawn scaled keeps these instead of the decoded file.
     mutable QPixmap m_scaled;
-    mutable qint64 m_scaledFrom = 0;
+    mutable qreal m_scaledRatio = 1.0;
 };
