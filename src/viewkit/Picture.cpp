@@ -164,10 +164,10 @@ const QPixmap& Picture::pixmap(qreal devicePixelRatio) const {
     m_loadedRatio = wanted;
     m_pixmap = QPixmap();
     if (wanted > 1.0) {
-        const QString sharp = kFolder + resourceFile(m_name, QStringLiteral("@2x"), m_type);
-        if (shipped(sharp.mid(kFolder.size()))) {
-            m_pixmap = loadShared(sharp, m_type, 2.0);
-            m_file = sharp;
+        const QString sharp = resourceFile(m_name, QStringLiteral("@2x"), m_type);
+        if (shipped(sharp)) {
+            m_file = kFolder + sharp;
+            m_pixmap = loadShared(m_file, m_type, 2.0);
         }
     }
     if (m_pixmap.isNull()) {
